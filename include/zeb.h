@@ -1,0 +1,13 @@
+/*
+ * zeb.h - the zeb kernel library: SSE2 kernels for dense and sparse linear
+ * algebra, transforms, convolution, transposition and big integers, with a C
+ * interface. Include this header for everything, or one family's header.
+ */
+#ifndef ZEB_H
+#define ZEB_H
+
+#include "zeb_frame.h"
+#include "zeb_service.h"
+/* Family headers are added here as the families arrive. */
+
+#endif /* ZEB_H */

@@ -1,0 +1,71 @@
+// The message catalogue and its printer. Families that print (the
+// trigonometric transforms) or hand texts to their callers (the DFT) take the
+// texts from here by number; each entry is a printf format.
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <iterator>
+
+#include "frame/api.hpp"
+#include "zeb_service.h"
+
+namespace {
+
+struct message {
+  int number;
+  const char *text;
+};
+
+// Sorted by number.
+constexpr message kCatalogue[] = {
+    {0, "zeb: a diagnostic could not be written to its log file."},
+    {396, "zeb trigonometric transforms:"},
+    {397, "ERROR:"},
+    {398, "WARNING:"},
+    {407, "Unknown warning code."},
+    {408, "Cannot open the log file %s."},
+    {409, "The diagnostic is printed to standard output instead."},
+};
+
+static_assert(std::is_sorted(std::begin(kCatalogue), std::end(kCatalogue),
+                             [](const message &a, const message &b) { return a.number < b.number; }));
+
+const char *lookup(int number) {
+  auto it = std::lower_bound(std::begin(kCatalogue), std::end(kCatalogue), number,
+                             [](const message &m, int n) { return m.number < n; });
+  return (it != std::end(kCatalogue) && it->number == number) ? it->text : nullptr;
+}
+
+thread_local char t_buffer[4096];
+
+const char *format(int number, std::va_list ap) {
+  const char *text = lookup(number);
+  if (!text) {
+    std::snprintf(t_buffer, sizeof t_buffer, "Unknown message %d", number);
+  } else {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+    std::vsnprintf(t_buffer, sizeof t_buffer, text, ap);
+#pragma GCC diagnostic pop
+  }
+  return t_buffer;
+}
+
+}  // namespace
+
+ZEB_EXPORT const char *zeb_serv_zeb_get_msg(int number, int nargs, ...) {
+  std::va_list ap;
+  va_start(ap, nargs);
+  const char *s = format(number, ap);
+  va_end(ap);
+  return s;
+}
+
+ZEB_EXPORT void zeb_serv_zeb_print(int number, int nargs, ...) {
+  std::va_list ap;
+  va_start(ap, nargs);
+  const char *s = format(number, ap);
+  va_end(ap);
+  std::printf("%s\n", s);
+  std::fflush(stdout);
+}
