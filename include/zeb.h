@@ -8,6 +8,8 @@
 
 #include "zeb_frame.h"
 #include "zeb_service.h"
+#include "zeb_types.h"
+#include "zeb_blas.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

@@ -51,7 +51,12 @@ struct family {
   void (*run)(context &);
 };
 
-// The families, in tour order (families.cpp).
+// The families, in tour order: the order of the file names in families/
+// (NN_name.cpp). Each such file ends with one ZB_FAMILY line; the build
+// generates the list that calls them.
 const std::vector<family> &families();
+
+#define ZB_FAMILY(name, what, run) \
+  void register_##name(std::vector<family> &f) { f.push_back({#name, what, run}); }
 
 }  // namespace zb

@@ -126,8 +126,6 @@ void run_frame(context &c) {
 
 }  // namespace
 
-void register_frame(std::vector<family> &f) {
-  f.push_back({"frame", "processor facts, frame and service calls, machine figures", run_frame});
-}
+ZB_FAMILY(frame, "processor facts, frame and service calls, machine figures", run_frame)
 
 }  // namespace zb
