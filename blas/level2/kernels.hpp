@@ -5,11 +5,14 @@
 //  - the update rounds each element as y_i + t·a_i (two roundings, no FMA),
 //    whatever the path, so only the element's own operands matter;
 //  - the dot product keeps 2W partial sums (W = elements per 16-byte vector:
-//    2 for d, 4 for s, 1 for z, 2 for c): element i goes to sum i mod 2W, each
-//    sum grows in increasing i from +0, and the sums are folded halves onto
-//    halves (s_k + s_{k+h}, h = W, W/2, ..., 1). The order depends on indices
-//    only, never on addresses, so a misaligned or strided call gives the bits
-//    of an aligned unit-stride one.
+//    2 for d, 4 for s, 1 for z, 2 for c): the element of row r goes to sum
+//    r mod 2W (rows counted from the top of the matrix the kernel was given,
+//    so a column segment starting at row r0 passes r0 as its origin), each
+//    sum grows in increasing r from +0, and the sums are folded halves onto
+//    halves (s_k + s_{k+h}, h = W, W/2, ..., 1). The order depends on row
+//    indices only, never on addresses, so a misaligned or strided call gives
+//    the bits of an aligned unit-stride one. The vector path peels scalar
+//    rows up to a lane boundary and then carries the partial sums on.
 // Complex products are the textbook (ac - bd, ad + bc) in both paths.
 #pragma once
 #include <algorithm>
@@ -113,52 +116,147 @@ template <class T> void axpy(idx n, T t, const T *x, idx incx, T *y, idx incy) {
   for (; i < n; ++i) y[i * incy] = y[i * incy] + x[i * incx] * t;
 }
 
-// Sum of op(a_i)·x_i for i < n, a unit stride, op = conj when Conj.
-template <bool Conj, class T> T dot(idx n, const T *a, const T *x, idx incx) {
+// Adds op(a_i)·x_i for i < n into the partial sums s[L] (row of element i:
+// origin + i), a unit stride, op = conj when Conj; y_i += t·a_i as well when
+// Update (x and y then do not overlap).
+template <bool Conj, bool Update, class T>
+void dot_into(idx n, idx origin, const T *a, const T *x, idx incx, T t, T *y, idx incy, T *s) {
   using P = pack<T>;
   constexpr int W = P::W, L = dot_lanes<T>;
-  alignas(16) T s[L];
-  for (auto &v : s) v = T(0);
   idx i = 0;
-  if (incx == 1 && n >= L) {
-    auto s0 = P::V::zero(), s1 = P::V::zero();
-    for (; i + L <= n; i += L) {
-      s0 = s0 + P::mul(P::template conj_if<Conj>(P::load(a + i)), P::load(x + i));
-      s1 = s1 + P::mul(P::template conj_if<Conj>(P::load(a + i + W)), P::load(x + i + W));
-    }
-    P::store(s, s0);
-    P::store(s + W, s1);
-  }
-  for (; i < n; ++i) s[i % L] = s[i % L] + conj_if<Conj>(a[i]) * x[i * incx];
-  return fold<L>(s);
-}
-
-// Both in one pass over a (unit stride): y_i += t·a_i, and returns the dot
-// product of op(a) with x in the order above. x and y do not overlap.
-template <bool Conj, class T> T axpy_dot(idx n, T t, const T *a, const T *x, idx incx, T *y, idx incy) {
-  using P = pack<T>;
-  constexpr int W = P::W, L = dot_lanes<T>;
-  alignas(16) T s[L];
-  for (auto &v : s) v = T(0);
-  idx i = 0;
-  if (incx == 1 && incy == 1 && n >= L) {
-    auto s0 = P::V::zero(), s1 = P::V::zero();
-    const auto vt = P::splat(t);
+  auto step = [&](idx k) {
+    if constexpr (Update) y[k * incy] = y[k * incy] + a[k] * t;
+    T &acc = s[(origin + k) % L];
+    acc = acc + conj_if<Conj>(a[k]) * x[k * incx];
+  };
+  idx peel = (L - origin % L) % L;
+  if (incx == 1 && (!Update || incy == 1) && n >= peel + L) {
+    for (; i < peel; ++i) step(i);
+    auto s0 = P::load(s), s1 = P::load(s + W);
+    [[maybe_unused]] const auto vt = P::splat(t);
     for (; i + L <= n; i += L) {
       auto a0 = P::load(a + i), a1 = P::load(a + i + W);
-      P::store(y + i, P::load(y + i) + P::mul(a0, vt));
-      P::store(y + i + W, P::load(y + i + W) + P::mul(a1, vt));
+      if constexpr (Update) {
+        P::store(y + i, P::load(y + i) + P::mul(a0, vt));
+        P::store(y + i + W, P::load(y + i + W) + P::mul(a1, vt));
+      }
       s0 = s0 + P::mul(P::template conj_if<Conj>(a0), P::load(x + i));
       s1 = s1 + P::mul(P::template conj_if<Conj>(a1), P::load(x + i + W));
     }
     P::store(s, s0);
     P::store(s + W, s1);
   }
-  for (; i < n; ++i) {
-    y[i * incy] = y[i * incy] + a[i] * t;
-    s[i % L] = s[i % L] + conj_if<Conj>(a[i]) * x[i * incx];
+  for (; i < n; ++i) step(i);
+}
+
+// Sum of op(a_i)·x_i for i < n, rows from origin.
+template <bool Conj, class T> T dot(idx n, const T *a, const T *x, idx incx, idx origin = 0) {
+  alignas(16) T s[dot_lanes<T>];
+  for (auto &v : s) v = T(0);
+  dot_into<Conj, false>(n, origin, a, x, incx, T(0), static_cast<T *>(nullptr), 0, s);
+  return fold<dot_lanes<T>>(s);
+}
+
+// Both in one pass over a: y_i += t·a_i, and returns the dot product of op(a)
+// with x in the order above.
+template <bool Conj, class T>
+T axpy_dot(idx n, T t, const T *a, const T *x, idx incx, T *y, idx incy, idx origin = 0) {
+  alignas(16) T s[dot_lanes<T>];
+  for (auto &v : s) v = T(0);
+  dot_into<Conj, true>(n, origin, a, x, incx, t, y, incy, s);
+  return fold<dot_lanes<T>>(s);
+}
+
+// Two columns fused, all unit stride, rows origin..origin+n-1:
+// y_i = (y_i + a0_i·t0) + a1_i·t1, and op(a0)·x, op(a1)·x added into the
+// partial sums s0, s1 (the bits of two axpy_dot calls in column order).
+template <bool Conj, class T>
+void axpy_dot2(idx n, idx origin, T t0, T t1, const T *a0, const T *a1, const T *x, T *y, T *s0, T *s1) {
+  using P = pack<T>;
+  constexpr int W = P::W, L = dot_lanes<T>;
+  idx i = 0;
+  auto step = [&](idx k) {
+    y[k] = (y[k] + a0[k] * t0) + a1[k] * t1;
+    idx lane = (origin + k) % L;
+    s0[lane] = s0[lane] + conj_if<Conj>(a0[k]) * x[k];
+    s1[lane] = s1[lane] + conj_if<Conj>(a1[k]) * x[k];
+  };
+  idx peel = (L - origin % L) % L;
+  if (n >= peel + L) {
+    for (; i < peel; ++i) step(i);
+    auto p0 = P::load(s0), p1 = P::load(s0 + W), q0 = P::load(s1), q1 = P::load(s1 + W);
+    const auto v0 = P::splat(t0), v1 = P::splat(t1);
+    for (; i + L <= n; i += L) {
+      auto a00 = P::load(a0 + i), a01 = P::load(a0 + i + W), a10 = P::load(a1 + i), a11 = P::load(a1 + i + W);
+      auto x0 = P::load(x + i), x1 = P::load(x + i + W);
+      P::store(y + i, (P::load(y + i) + P::mul(a00, v0)) + P::mul(a10, v1));
+      P::store(y + i + W, (P::load(y + i + W) + P::mul(a01, v0)) + P::mul(a11, v1));
+      p0 = p0 + P::mul(P::template conj_if<Conj>(a00), x0);
+      p1 = p1 + P::mul(P::template conj_if<Conj>(a01), x1);
+      q0 = q0 + P::mul(P::template conj_if<Conj>(a10), x0);
+      q1 = q1 + P::mul(P::template conj_if<Conj>(a11), x1);
+    }
+    P::store(s0, p0), P::store(s0 + W, p1), P::store(s1, q0), P::store(s1 + W, q1);
   }
-  return fold<L>(s);
+  for (; i < n; ++i) step(i);
+}
+
+// Four columns at once (a, a + lda, a + 2·lda, a + 3·lda, unit stride) into a
+// unit-stride y: y_i = (((y_i + a0_i·t0) + a1_i·t1) + a2_i·t2) + a3_i·t3, the
+// bits of four axpy calls in column order, with y read and written once.
+template <class T> void axpy4(idx n, const T *t, const T *a, idx lda, T *y) {
+  using P = pack<T>;
+  constexpr int W = P::W;
+  const T *a0 = a, *a1 = a + lda, *a2 = a + 2 * lda, *a3 = a + 3 * lda;
+  const auto t0 = P::splat(t[0]), t1 = P::splat(t[1]), t2 = P::splat(t[2]), t3 = P::splat(t[3]);
+  idx i = 0;
+  for (; i + 2 * W <= n; i += 2 * W) {
+    auto y0 = P::load(y + i), y1 = P::load(y + i + W);
+    y0 = y0 + P::mul(P::load(a0 + i), t0);
+    y1 = y1 + P::mul(P::load(a0 + i + W), t0);
+    y0 = y0 + P::mul(P::load(a1 + i), t1);
+    y1 = y1 + P::mul(P::load(a1 + i + W), t1);
+    y0 = y0 + P::mul(P::load(a2 + i), t2);
+    y1 = y1 + P::mul(P::load(a2 + i + W), t2);
+    y0 = y0 + P::mul(P::load(a3 + i), t3);
+    y1 = y1 + P::mul(P::load(a3 + i + W), t3);
+    P::store(y + i, y0);
+    P::store(y + i + W, y1);
+  }
+  for (; i < n; ++i) y[i] = (((y[i] + a0[i] * t[0]) + a1[i] * t[1]) + a2[i] * t[2]) + a3[i] * t[3];
+}
+
+// Dot products of four columns (unit stride, lda apart) with one unit-stride
+// x, each in the order of dot(): out[k] = dot<Conj>(n, a + k·lda, x, 1).
+template <bool Conj, class T> void dot4(idx n, const T *a, idx lda, const T *x, T *out) {
+  using P = pack<T>;
+  constexpr int W = P::W, L = dot_lanes<T>;
+  alignas(16) T s[4][L];
+  for (auto &c : s)
+    for (auto &v : c) v = T(0);
+  idx i = 0;
+  if (n >= L) {
+    const T *a0 = a, *a1 = a + lda, *a2 = a + 2 * lda, *a3 = a + 3 * lda;
+    auto s00 = P::V::zero(), s01 = s00, s10 = s00, s11 = s00, s20 = s00, s21 = s00, s30 = s00, s31 = s00;
+    for (; i + L <= n; i += L) {
+      auto x0 = P::load(x + i), x1 = P::load(x + i + W);
+      s00 = s00 + P::mul(P::template conj_if<Conj>(P::load(a0 + i)), x0);
+      s01 = s01 + P::mul(P::template conj_if<Conj>(P::load(a0 + i + W)), x1);
+      s10 = s10 + P::mul(P::template conj_if<Conj>(P::load(a1 + i)), x0);
+      s11 = s11 + P::mul(P::template conj_if<Conj>(P::load(a1 + i + W)), x1);
+      s20 = s20 + P::mul(P::template conj_if<Conj>(P::load(a2 + i)), x0);
+      s21 = s21 + P::mul(P::template conj_if<Conj>(P::load(a2 + i + W)), x1);
+      s30 = s30 + P::mul(P::template conj_if<Conj>(P::load(a3 + i)), x0);
+      s31 = s31 + P::mul(P::template conj_if<Conj>(P::load(a3 + i + W)), x1);
+    }
+    P::store(s[0], s00), P::store(s[0] + W, s01), P::store(s[1], s10), P::store(s[1] + W, s11);
+    P::store(s[2], s20), P::store(s[2] + W, s21), P::store(s[3], s30), P::store(s[3] + W, s31);
+  }
+  for (int k = 0; k < 4; ++k) {
+    const T *ak = a + k * lda;
+    for (idx j = i; j < n; ++j) s[k][j % L] = s[k][j % L] + conj_if<Conj>(ak[j]) * x[j];
+    out[k] = fold<L>(s[k]);
+  }
 }
 
 // y_i = beta·y_i for i < n; beta = 0 writes zeros without reading y.

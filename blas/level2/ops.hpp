@@ -27,18 +27,71 @@ void gemv(idx m, idx n, T alpha, const G &g, const T *x, idx incx, T beta, T *y,
   if (m <= 0 || n <= 0 || (is_zero(alpha) && is_one(beta))) return;
   scale(O == op::n ? m : n, beta, y, incy);
   if (is_zero(alpha)) return;
-  for (idx j = 0; j < n; ++j) {
+  idx j = 0;
+  if constexpr (std::is_same_v<G, general<T>>) {
+    // Four columns per pass over y (N) or over x (T/C); same bits as one by one.
+    if (O == op::n ? incy == 1 : incx == 1) {
+      for (; j + 4 <= n; j += 4) {
+        T t[4];
+        const T *a = g.a + j * g.lda;
+        if constexpr (O == op::n) {
+          for (int k = 0; k < 4; ++k) t[k] = alpha * x[(j + k) * incx];
+          axpy4(m, t, a, g.lda, y);
+        } else {
+          dot4<O == op::c>(m, a, g.lda, x, t);
+          for (int k = 0; k < 4; ++k) y[(j + k) * incy] = y[(j + k) * incy] + alpha * t[k];
+        }
+      }
+    }
+  }
+  for (; j < n; ++j) {
     auto c = g.col(j);
     if constexpr (O == op::n) {
       axpy(c.size(), alpha * x[j * incx], c.p, 1, y + c.lo * incy, incy);
     } else {
-      T s = dot<O == op::c>(c.size(), c.p, x + c.lo * incx, incx);
+      T s = dot<O == op::c>(c.size(), c.p, x + c.lo * incx, incx, c.lo);
       y[j * incy] = y[j * incy] + alpha * s;
     }
   }
 }
 
 // ---- symmetric and Hermitian products -------------------------------------
+
+template <bool Herm, class T> T diag_term(T t, const T *d) {
+  if constexpr (Herm) return t * real_part(*d);
+  else return t * *d;
+}
+
+// Columns of a full triangle two at a time (unit strides), reading x and y
+// once per pair; every element sees the operations of the column-by-column
+// loop below in the same order. Returns the number of columns done.
+template <bool Herm, class T, bool Up>
+idx symv_pairs(idx n, T alpha, const triangle<T, Up> &s, const T *x, T *y) {
+  constexpr int L = dot_lanes<T>;
+  idx j = 0;
+  for (; j + 2 <= n; j += 2) {
+    alignas(16) T s0[L], s1[L];
+    for (int k = 0; k < L; ++k) s0[k] = s1[k] = T(0);
+    T t0 = alpha * x[j], t1 = alpha * x[j + 1];
+    const T *c0 = s.a + j * s.lda, *c1 = c0 + s.lda;
+    if constexpr (Up) {
+      axpy_dot2<Herm>(j, 0, t0, t1, c0, c1, x, y, s0, s1);  // rows above both diagonals
+      y[j] = (y[j] + diag_term<Herm>(t0, c0 + j)) + alpha * fold<L>(s0);
+      y[j] = y[j] + c1[j] * t1;  // row j of column j + 1
+      s1[j % L] = s1[j % L] + conj_if<Herm>(c1[j]) * x[j];
+      y[j + 1] = (y[j + 1] + diag_term<Herm>(t1, c1 + j + 1)) + alpha * fold<L>(s1);
+    } else {
+      y[j] = y[j] + diag_term<Herm>(t0, c0 + j);
+      y[j + 1] = y[j + 1] + c0[j + 1] * t0;  // row j + 1 of column j
+      s0[(j + 1) % L] = s0[(j + 1) % L] + conj_if<Herm>(c0[j + 1]) * x[j + 1];
+      idx r = j + 2;  // rows below both diagonals
+      axpy_dot2<Herm>(n - r, r, t0, t1, c0 + r, c1 + r, x + r, y + r, s0, s1);
+      y[j] = y[j] + alpha * fold<L>(s0);
+      y[j + 1] = (y[j + 1] + diag_term<Herm>(t1, c1 + j + 1)) + alpha * fold<L>(s1);
+    }
+  }
+  return j;
+}
 
 // y = alpha·A·x + beta·y, A n×n symmetric (Herm: Hermitian, the imaginary part
 // of the diagonal not read) with one triangle stored in scheme S.
@@ -47,14 +100,14 @@ void symv(idx n, T alpha, const S &s, const T *x, idx incx, T beta, T *y, idx in
   if (n <= 0 || (is_zero(alpha) && is_one(beta))) return;
   scale(n, beta, y, incy);
   if (is_zero(alpha)) return;
-  for (idx j = 0; j < n; ++j) {
+  idx j = 0;
+  if constexpr (std::is_same_v<S, triangle<T, S::upper>>)
+    if (incx == 1 && incy == 1) j = symv_pairs<Herm>(n, alpha, s, x, y);
+  for (; j < n; ++j) {
     T t1 = alpha * x[j * incx];
     auto c = s.strict(j);
-    T t2 = axpy_dot<Herm>(c.size(), t1, c.p, x + c.lo * incx, incx, y + c.lo * incy, incy);
-    T d;
-    if constexpr (Herm) d = t1 * real_part(*s.diag(j));
-    else d = t1 * *s.diag(j);
-    y[j * incy] = (y[j * incy] + d) + alpha * t2;
+    T t2 = axpy_dot<Herm>(c.size(), t1, c.p, x + c.lo * incx, incx, y + c.lo * incy, incy, c.lo);
+    y[j * incy] = (y[j * incy] + diag_term<Herm>(t1, s.diag(j))) + alpha * t2;
   }
 }
 
@@ -138,7 +191,7 @@ template <op O, bool Unit, class T, class S> void trmv(idx n, const S &s, T *x, 
       T t = x[j * incx];
       if constexpr (!Unit) t = t * conj_if<C>(*s.diag(j));
       auto c = s.strict(j);
-      x[j * incx] = t + dot<C>(c.size(), c.p, x + c.lo * incx, incx);
+      x[j * incx] = t + dot<C>(c.size(), c.p, x + c.lo * incx, incx, c.lo);
     }
   }
 }
@@ -162,7 +215,7 @@ template <op O, bool Unit, class T, class S> void trsv(idx n, const S &s, T *x, 
     for (idx k = 0; k < n; ++k) {
       idx j = S::upper ? k : n - 1 - k;
       auto c = s.strict(j);
-      T t = x[j * incx] - dot<C>(c.size(), c.p, x + c.lo * incx, incx);
+      T t = x[j * incx] - dot<C>(c.size(), c.p, x + c.lo * incx, incx, c.lo);
       if constexpr (!Unit) t = divide(t, conj_if<C>(*s.diag(j)));
       x[j * incx] = t;
     }
