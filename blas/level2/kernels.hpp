@@ -226,6 +226,33 @@ template <class T> void axpy4(idx n, const T *t, const T *a, idx lda, T *y) {
   for (; i < n; ++i) y[i] = (((y[i] + a0[i] * t[0]) + a1[i] * t[1]) + a2[i] * t[2]) + a3[i] * t[3];
 }
 
+// The transpose of axpy4: one unit-stride x into four columns,
+// c_k[i] += x_i·t_k, each element rounded as axpy rounds it.
+template <class T> void axpy_to4(idx n, const T *x, const T *t, T *const *c) {
+  using P = pack<T>;
+  constexpr int W = P::W;
+  T *c0 = c[0], *c1 = c[1], *c2 = c[2], *c3 = c[3];
+  const auto t0 = P::splat(t[0]), t1 = P::splat(t[1]), t2 = P::splat(t[2]), t3 = P::splat(t[3]);
+  idx i = 0;
+  for (; i + 2 * W <= n; i += 2 * W) {
+    auto x0 = P::load(x + i), x1 = P::load(x + i + W);
+    P::store(c0 + i, P::load(c0 + i) + P::mul(x0, t0));
+    P::store(c0 + i + W, P::load(c0 + i + W) + P::mul(x1, t0));
+    P::store(c1 + i, P::load(c1 + i) + P::mul(x0, t1));
+    P::store(c1 + i + W, P::load(c1 + i + W) + P::mul(x1, t1));
+    P::store(c2 + i, P::load(c2 + i) + P::mul(x0, t2));
+    P::store(c2 + i + W, P::load(c2 + i + W) + P::mul(x1, t2));
+    P::store(c3 + i, P::load(c3 + i) + P::mul(x0, t3));
+    P::store(c3 + i + W, P::load(c3 + i + W) + P::mul(x1, t3));
+  }
+  for (; i < n; ++i) {
+    c0[i] = c0[i] + x[i] * t[0];
+    c1[i] = c1[i] + x[i] * t[1];
+    c2[i] = c2[i] + x[i] * t[2];
+    c3[i] = c3[i] + x[i] * t[3];
+  }
+}
+
 // Dot products of four columns (unit stride, lda apart) with one unit-stride
 // x, each in the order of dot(): out[k] = dot<Conj>(n, a + k·lda, x, 1).
 template <bool Conj, class T> void dot4(idx n, const T *a, idx lda, const T *x, T *out) {

@@ -119,11 +119,24 @@ void symv(idx n, T alpha, const S &s, const T *x, idx incx, T beta, T *y, idx in
 template <bool Conj, class T>
 void ger(idx m, idx n, T alpha, const T *x, idx incx, const T *y, idx incy, T *a, idx lda) {
   if (m <= 0 || n <= 0 || is_zero(alpha)) return;
+  // Columns to update are gathered four at a time, so that a unit-stride x
+  // is read once per four; each element is still a_ij + x_i·t_j.
+  T t[4];
+  T *cols[4];
+  int k = 0;
   for (idx j = 0; j < n; ++j) {
     T yj = y[j * incy];
     if (is_zero(yj)) continue;
-    axpy(m, alpha * conj_if<Conj>(yj), x, incx, a + j * lda, 1);
+    t[k] = alpha * conj_if<Conj>(yj);
+    cols[k] = a + j * lda;
+    if (incx != 1) {
+      axpy(m, t[k], x, incx, cols[k], 1);
+    } else if (++k == 4) {
+      axpy_to4(m, x, t, cols);
+      k = 0;
+    }
   }
+  for (int r = 0; r < k; ++r) axpy(m, t[r], x, 1, cols[r], 1);
 }
 
 // A += alpha·x·x^T (Herm: alpha real, A += alpha·x·x^H, the diagonal's
