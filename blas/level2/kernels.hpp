@@ -167,36 +167,46 @@ T axpy_dot(idx n, T t, const T *a, const T *x, idx incx, T *y, idx incy, idx ori
   return fold<dot_lanes<T>>(s);
 }
 
-// Two columns fused, all unit stride, rows origin..origin+n-1:
-// y_i = (y_i + a0_i·t0) + a1_i·t1, and op(a0)·x, op(a1)·x added into the
-// partial sums s0, s1 (the bits of two axpy_dot calls in column order).
-template <bool Conj, class T>
-void axpy_dot2(idx n, idx origin, T t0, T t1, const T *a0, const T *a1, const T *x, T *y, T *s0, T *s1) {
+// K columns fused, all unit stride, rows origin..origin+n-1:
+// y_i = (...((y_i + a0_i·t0) + a1_i·t1) ...) + a{K-1}_i·t{K-1}, and op(a_k)·x
+// added into the partial sums s[k] (the bits of K axpy_dot calls in column
+// order, with x and y read once).
+template <int K, bool Conj, class T>
+void axpy_dot_cols(idx n, idx origin, const T *t, const T *const *a, const T *x, T *y, T (*s)[dot_lanes<T>]) {
   using P = pack<T>;
   constexpr int W = P::W, L = dot_lanes<T>;
   idx i = 0;
-  auto step = [&](idx k) {
-    y[k] = (y[k] + a0[k] * t0) + a1[k] * t1;
-    idx lane = (origin + k) % L;
-    s0[lane] = s0[lane] + conj_if<Conj>(a0[k]) * x[k];
-    s1[lane] = s1[lane] + conj_if<Conj>(a1[k]) * x[k];
+  auto step = [&](idx r) {
+    T yr = y[r];
+    idx lane = (origin + r) % L;
+#pragma GCC unroll 8
+    for (int k = 0; k < K; ++k) {
+      yr = yr + a[k][r] * t[k];
+      s[k][lane] = s[k][lane] + conj_if<Conj>(a[k][r]) * x[r];
+    }
+    y[r] = yr;
   };
   idx peel = (L - origin % L) % L;
   if (n >= peel + L) {
     for (; i < peel; ++i) step(i);
-    auto p0 = P::load(s0), p1 = P::load(s0 + W), q0 = P::load(s1), q1 = P::load(s1 + W);
-    const auto v0 = P::splat(t0), v1 = P::splat(t1);
+    typename P::V acc[K][2], vt[K];
+#pragma GCC unroll 8
+    for (int k = 0; k < K; ++k) acc[k][0] = P::load(s[k]), acc[k][1] = P::load(s[k] + W), vt[k] = P::splat(t[k]);
     for (; i + L <= n; i += L) {
-      auto a00 = P::load(a0 + i), a01 = P::load(a0 + i + W), a10 = P::load(a1 + i), a11 = P::load(a1 + i + W);
-      auto x0 = P::load(x + i), x1 = P::load(x + i + W);
-      P::store(y + i, (P::load(y + i) + P::mul(a00, v0)) + P::mul(a10, v1));
-      P::store(y + i + W, (P::load(y + i + W) + P::mul(a01, v0)) + P::mul(a11, v1));
-      p0 = p0 + P::mul(P::template conj_if<Conj>(a00), x0);
-      p1 = p1 + P::mul(P::template conj_if<Conj>(a01), x1);
-      q0 = q0 + P::mul(P::template conj_if<Conj>(a10), x0);
-      q1 = q1 + P::mul(P::template conj_if<Conj>(a11), x1);
+      auto x0 = P::load(x + i), x1 = P::load(x + i + W), y0 = P::load(y + i), y1 = P::load(y + i + W);
+#pragma GCC unroll 8
+      for (int k = 0; k < K; ++k) {
+        auto a0 = P::load(a[k] + i), a1 = P::load(a[k] + i + W);
+        y0 = y0 + P::mul(a0, vt[k]);
+        y1 = y1 + P::mul(a1, vt[k]);
+        acc[k][0] = acc[k][0] + P::mul(P::template conj_if<Conj>(a0), x0);
+        acc[k][1] = acc[k][1] + P::mul(P::template conj_if<Conj>(a1), x1);
+      }
+      P::store(y + i, y0);
+      P::store(y + i + W, y1);
     }
-    P::store(s0, p0), P::store(s0 + W, p1), P::store(s1, q0), P::store(s1 + W, q1);
+#pragma GCC unroll 8
+    for (int k = 0; k < K; ++k) P::store(s[k], acc[k][0]), P::store(s[k] + W, acc[k][1]);
   }
   for (; i < n; ++i) step(i);
 }

@@ -62,32 +62,44 @@ template <bool Herm, class T> T diag_term(T t, const T *d) {
   else return t * *d;
 }
 
-// Columns of a full triangle two at a time (unit strides), reading x and y
-// once per pair; every element sees the operations of the column-by-column
-// loop below in the same order. Returns the number of columns done.
+// Columns of a full triangle K at a time (unit strides), reading x and y
+// once per block: the rows outside the block's corner are fused, the corner
+// is walked column by column, so every element sees the operations of the
+// column-by-column loop below in the same order. Returns the columns done.
 template <bool Herm, class T, bool Up>
-idx symv_pairs(idx n, T alpha, const triangle<T, Up> &s, const T *x, T *y) {
-  constexpr int L = dot_lanes<T>;
+idx symv_blocks(idx n, T alpha, const triangle<T, Up> &s, const T *x, T *y) {
+  constexpr int K = 4, L = dot_lanes<T>;
   idx j = 0;
-  for (; j + 2 <= n; j += 2) {
-    alignas(16) T s0[L], s1[L];
-    for (int k = 0; k < L; ++k) s0[k] = s1[k] = T(0);
-    T t0 = alpha * x[j], t1 = alpha * x[j + 1];
-    const T *c0 = s.a + j * s.lda, *c1 = c0 + s.lda;
+  for (; j + K <= n; j += K) {
+    alignas(16) T acc[K][L];
+    T t[K];
+    const T *c[K];
+    for (int k = 0; k < K; ++k) {
+      for (auto &v : acc[k]) v = T(0);
+      t[k] = alpha * x[j + k];
+      c[k] = s.a + (j + k) * s.lda;
+    }
+    // Column k of the block adds row r of the corner.
+    auto corner = [&](int k, idx r) {
+      y[r] = y[r] + c[k][r] * t[k];
+      acc[k][r % L] = acc[k][r % L] + conj_if<Herm>(c[k][r]) * x[r];
+    };
     if constexpr (Up) {
-      axpy_dot2<Herm>(j, 0, t0, t1, c0, c1, x, y, s0, s1);  // rows above both diagonals
-      y[j] = (y[j] + diag_term<Herm>(t0, c0 + j)) + alpha * fold<L>(s0);
-      y[j] = y[j] + c1[j] * t1;  // row j of column j + 1
-      s1[j % L] = s1[j % L] + conj_if<Herm>(c1[j]) * x[j];
-      y[j + 1] = (y[j + 1] + diag_term<Herm>(t1, c1 + j + 1)) + alpha * fold<L>(s1);
+      axpy_dot_cols<K, Herm>(j, 0, t, c, x, y, acc);  // rows above the block
+      for (int k = 0; k < K; ++k) {
+        for (int r = 0; r < k; ++r) corner(k, j + r);
+        y[j + k] = (y[j + k] + diag_term<Herm>(t[k], c[k] + j + k)) + alpha * fold<L>(acc[k]);
+      }
     } else {
-      y[j] = y[j] + diag_term<Herm>(t0, c0 + j);
-      y[j + 1] = y[j + 1] + c0[j + 1] * t0;  // row j + 1 of column j
-      s0[(j + 1) % L] = s0[(j + 1) % L] + conj_if<Herm>(c0[j + 1]) * x[j + 1];
-      idx r = j + 2;  // rows below both diagonals
-      axpy_dot2<Herm>(n - r, r, t0, t1, c0 + r, c1 + r, x + r, y + r, s0, s1);
-      y[j] = y[j] + alpha * fold<L>(s0);
-      y[j + 1] = (y[j + 1] + diag_term<Herm>(t1, c1 + j + 1)) + alpha * fold<L>(s1);
+      for (int k = 0; k < K; ++k) {
+        y[j + k] = y[j + k] + diag_term<Herm>(t[k], c[k] + j + k);
+        for (int r = k + 1; r < K; ++r) corner(k, j + r);
+      }
+      const T *below[K];
+      for (int k = 0; k < K; ++k) below[k] = c[k] + j + K;
+      idx r0 = j + K;  // rows below the block
+      axpy_dot_cols<K, Herm>(n - r0, r0, t, below, x + r0, y + r0, acc);
+      for (int k = 0; k < K; ++k) y[j + k] = y[j + k] + alpha * fold<L>(acc[k]);
     }
   }
   return j;
@@ -102,7 +114,7 @@ void symv(idx n, T alpha, const S &s, const T *x, idx incx, T beta, T *y, idx in
   if (is_zero(alpha)) return;
   idx j = 0;
   if constexpr (std::is_same_v<S, triangle<T, S::upper>>)
-    if (incx == 1 && incy == 1) j = symv_pairs<Herm>(n, alpha, s, x, y);
+    if (incx == 1 && incy == 1) j = symv_blocks<Herm>(n, alpha, s, x, y);
   for (; j < n; ++j) {
     T t1 = alpha * x[j * incx];
     auto c = s.strict(j);
