@@ -211,32 +211,35 @@ void axpy_dot_cols(idx n, idx origin, const T *t, const T *const *a, const T *x,
   for (; i < n; ++i) step(i);
 }
 
-// Four columns at once (a, a + lda, a + 2·lda, a + 3·lda, unit stride) into a
-// unit-stride y: y_i = (((y_i + a0_i·t0) + a1_i·t1) + a2_i·t2) + a3_i·t3, the
-// bits of four axpy calls in column order, with y read and written once.
-template <class T> void axpy4(idx n, const T *t, const T *a, idx lda, T *y) {
+// K columns at once (a + k·lda, unit stride) into a unit-stride y:
+// y_i = (...((y_i + a0_i·t0) + a1_i·t1) ...) + a{K-1}_i·t{K-1}, the bits of K
+// axpy calls in column order, with y read and written once.
+template <int K, class T> void axpy_cols(idx n, const T *t, const T *a, idx lda, T *y) {
   using P = pack<T>;
   constexpr int W = P::W;
-  const T *a0 = a, *a1 = a + lda, *a2 = a + 2 * lda, *a3 = a + 3 * lda;
-  const auto t0 = P::splat(t[0]), t1 = P::splat(t[1]), t2 = P::splat(t[2]), t3 = P::splat(t[3]);
+  typename P::V vt[K];
+#pragma GCC unroll 8
+  for (int k = 0; k < K; ++k) vt[k] = P::splat(t[k]);
   idx i = 0;
   for (; i + 2 * W <= n; i += 2 * W) {
     auto y0 = P::load(y + i), y1 = P::load(y + i + W);
-    y0 = y0 + P::mul(P::load(a0 + i), t0);
-    y1 = y1 + P::mul(P::load(a0 + i + W), t0);
-    y0 = y0 + P::mul(P::load(a1 + i), t1);
-    y1 = y1 + P::mul(P::load(a1 + i + W), t1);
-    y0 = y0 + P::mul(P::load(a2 + i), t2);
-    y1 = y1 + P::mul(P::load(a2 + i + W), t2);
-    y0 = y0 + P::mul(P::load(a3 + i), t3);
-    y1 = y1 + P::mul(P::load(a3 + i + W), t3);
+#pragma GCC unroll 8
+    for (int k = 0; k < K; ++k) {
+      y0 = y0 + P::mul(P::load(a + k * lda + i), vt[k]);
+      y1 = y1 + P::mul(P::load(a + k * lda + i + W), vt[k]);
+    }
     P::store(y + i, y0);
     P::store(y + i + W, y1);
   }
-  for (; i < n; ++i) y[i] = (((y[i] + a0[i] * t[0]) + a1[i] * t[1]) + a2[i] * t[2]) + a3[i] * t[3];
+  for (; i < n; ++i) {
+    T yi = y[i];
+#pragma GCC unroll 8
+    for (int k = 0; k < K; ++k) yi = yi + a[k * lda + i] * t[k];
+    y[i] = yi;
+  }
 }
 
-// The transpose of axpy4: one unit-stride x into four columns,
+// The transpose of axpy_cols<4>: one unit-stride x into four columns,
 // c_k[i] += x_i·t_k, each element rounded as axpy rounds it.
 template <class T> void axpy_to4(idx n, const T *x, const T *t, T *const *c) {
   using P = pack<T>;

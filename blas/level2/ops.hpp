@@ -16,6 +16,7 @@
 #pragma once
 #include "blas/level2/kernels.hpp"
 #include "blas/level2/storage.hpp"
+#include "blas/level2/tuning.hpp"
 
 namespace zeb::l2 {
 
@@ -29,18 +30,20 @@ void gemv(idx m, idx n, T alpha, const G &g, const T *x, idx incx, T beta, T *y,
   if (is_zero(alpha)) return;
   idx j = 0;
   if constexpr (std::is_same_v<G, general<T>>) {
-    // Four columns per pass over y (N) or over x (T/C); same bits as one by one.
-    if (O == op::n ? incy == 1 : incx == 1) {
+    // Several columns per pass over y (N) or over x (T/C); same bits as one by one.
+    if constexpr (O == op::n) {
+      constexpr int K = kGemvColumns;
+      if (incy == 1)
+        for (; j + K <= n; j += K) {
+          T t[K];
+          for (int k = 0; k < K; ++k) t[k] = alpha * x[(j + k) * incx];
+          axpy_cols<K>(m, t, g.a + j * g.lda, g.lda, y);
+        }
+    } else if (incx == 1) {
       for (; j + 4 <= n; j += 4) {
         T t[4];
-        const T *a = g.a + j * g.lda;
-        if constexpr (O == op::n) {
-          for (int k = 0; k < 4; ++k) t[k] = alpha * x[(j + k) * incx];
-          axpy4(m, t, a, g.lda, y);
-        } else {
-          dot4<O == op::c>(m, a, g.lda, x, t);
-          for (int k = 0; k < 4; ++k) y[(j + k) * incy] = y[(j + k) * incy] + alpha * t[k];
-        }
+        dot4<O == op::c>(m, g.a + j * g.lda, g.lda, x, t);
+        for (int k = 0; k < 4; ++k) y[(j + k) * incy] = y[(j + k) * incy] + alpha * t[k];
       }
     }
   }

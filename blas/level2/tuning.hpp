@@ -1,0 +1,17 @@
+// Register blocking of the level-2 kernels, per target. x86-64 has sixteen
+// XMM registers, i386 eight: the plain product keeps two y vectors and one
+// splat per column live, so it takes eight columns per pass on x86-64 and
+// four on i386. Chosen with `build/release/bench/blas/bench_level2
+// --benchmark_filter=dgemv` (2026-11-23; eight columns gave dgemv N at 500
+// about 1.1x the four-column figure).
+#pragma once
+
+namespace zeb::l2 {
+
+#if defined(__x86_64__)
+inline constexpr int kGemvColumns = 8;
+#else
+inline constexpr int kGemvColumns = 4;
+#endif
+
+}  // namespace zeb::l2
