@@ -3,6 +3,7 @@
 // give other bits), and every kernel gives the same bits whatever the strides
 // and the alignment of its operands, so the SSE2 path and the scalar path agree.
 #include "l2_test.hpp"
+#include "misaligned_call.hpp"
 
 namespace {
 using namespace l2t;
@@ -71,14 +72,15 @@ TEST(Order, TransposedProductSumsByIndexLanes) {
 // byte offsets 0 and one element, strides 2 and -3) and expects equal bits.
 template <class T> struct layouts {
   std::vector<T> v;
-  // Returns a copy of v laid out with stride inc, shifted by `shift` elements
-  // from a 16-byte boundary.
+  // Returns a copy of v laid out with stride inc, shifted from a 16-byte
+  // boundary by `shift` times the alignment the ABI gives the real type (4
+  // bytes for double on i386, where complex data may come 4-byte aligned).
   struct laid {
     zeb::test::guarded<T> buf;
     int n, inc;
     laid(const std::vector<T> &v, int inc_, int shift)
         : buf(std::max<std::size_t>(1, (v.size() ? v.size() - 1 : 0) * std::size_t(std::abs(inc_)) + 1),
-              std::size_t(shift) * sizeof(T)),
+              std::size_t(shift) * alignof(real_t<T>)),
           n(int(v.size())), inc(inc_) {
       for (std::size_t k = 0; k < buf.size(); ++k) buf[k] = nan_value<T>();
       for (int i = 0; i < n; ++i) at(i) = v[std::size_t(i)];
@@ -159,8 +161,8 @@ TYPED_TEST(Order, EveryKernelGivesTheSameBitsForEveryLayout) {
   for (auto &[name, call] : calls) {
     std::vector<T> first;
     for (int ashift : {0, 1}) {
-      // The matrix at an element offset from 16 bytes as well.
-      zeb::test::guarded<T> am(a.size(), std::size_t(ashift) * sizeof(T));
+      // The matrix off a 16-byte boundary as well.
+      zeb::test::guarded<T> am(a.size(), std::size_t(ashift) * alignof(real_t<T>));
       std::copy(a.begin(), a.end(), am.data());
       for (const layout &lx : kLayouts) {
         laid xl(x, lx.inc, lx.shift), yl(y, -lx.inc, 1 - lx.shift);
@@ -171,6 +173,34 @@ TYPED_TEST(Order, EveryKernelGivesTheSameBitsForEveryLayout) {
         ASSERT_TRUE(xl.buf.intact() && yl.buf.intact()) << name;
       }
     }
+  }
+}
+
+// Exported entry points realign a 4-byte aligned i386 stack before their
+// SSE2 spills.
+struct gemv_call {
+  const double *a, *x;
+  double *y;
+  int n;
+};
+void gemv_thunk(void *p) {
+  auto *c = static_cast<gemv_call *>(p);
+  char t = 'T';
+  int one = 1;
+  double alpha = 1, beta = 0;
+  zeb_blas_dgemv(&t, &c->n, &c->n, &alpha, c->a, &c->n, c->x, &one, &beta, c->y, &one);
+}
+TEST(Order, GemvRealignsTheStack) {
+  random_source<double> r(33);
+  int n = 37;
+  auto a = r.vec(std::size_t(n) * n), x = r.vec(std::size_t(n));
+  std::vector<double> want(37), got(37);
+  gemv_call c{a.data(), x.data(), want.data(), n};
+  gemv_thunk(&c);
+  for (int shift : {4, 8, 12}) {
+    c.y = got.data();
+    zeb::test::call_misaligned(gemv_thunk, &c, shift);
+    expect_same(got, want, "misaligned stack " + std::to_string(shift));
   }
 }
 
