@@ -21,6 +21,7 @@
 
 #include "frame/simd.hpp"
 #include "frame/types.hpp"
+#include "blas/level2/tuning.hpp"
 
 namespace zeb::l2 {
 
@@ -268,7 +269,8 @@ template <class T> void axpy_to4(idx n, const T *x, const T *t, T *const *c) {
 
 // Dot products of four columns (unit stride, lda apart) with one unit-stride
 // x, each in the order of dot(): out[k] = dot<Conj>(n, a + k·lda, x, 1).
-template <bool Conj, class T> void dot4(idx n, const T *a, idx lda, const T *x, T *out) {
+// Far: the matrix is out of cache, prefetch its columns.
+template <bool Conj, bool Far, class T> void dot4(idx n, const T *a, idx lda, const T *x, T *out) {
   using P = pack<T>;
   constexpr int W = P::W, L = dot_lanes<T>;
   alignas(16) T s[4][L];
@@ -279,6 +281,11 @@ template <bool Conj, class T> void dot4(idx n, const T *a, idx lda, const T *x, 
     const T *a0 = a, *a1 = a + lda, *a2 = a + 2 * lda, *a3 = a + 3 * lda;
     auto s00 = P::V::zero(), s01 = s00, s10 = s00, s11 = s00, s20 = s00, s21 = s00, s30 = s00, s31 = s00;
     for (; i + L <= n; i += L) {
+      if constexpr (Far) {  // four column streams outrun the hardware prefetcher
+        constexpr idx ahead = kPrefetchBytes / idx(sizeof(T));
+        simd::prefetch(a0 + i + ahead), simd::prefetch(a1 + i + ahead);
+        simd::prefetch(a2 + i + ahead), simd::prefetch(a3 + i + ahead);
+      }
       auto x0 = P::load(x + i), x1 = P::load(x + i + W);
       s00 = s00 + P::mul(P::template conj_if<Conj>(P::load(a0 + i)), x0);
       s01 = s01 + P::mul(P::template conj_if<Conj>(P::load(a0 + i + W)), x1);

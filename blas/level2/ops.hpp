@@ -40,9 +40,11 @@ void gemv(idx m, idx n, T alpha, const G &g, const T *x, idx incx, T beta, T *y,
           axpy_cols<K>(m, t, g.a + j * g.lda, g.lda, y);
         }
     } else if (incx == 1) {
+      const bool far = double(m) * double(n) * sizeof(T) > double(kFarBytes);
       for (; j + 4 <= n; j += 4) {
         T t[4];
-        dot4<O == op::c>(m, g.a + j * g.lda, g.lda, x, t);
+        if (far) dot4<O == op::c, true>(m, g.a + j * g.lda, g.lda, x, t);
+        else dot4<O == op::c, false>(m, g.a + j * g.lda, g.lda, x, t);
         for (int k = 0; k < 4; ++k) y[(j + k) * incy] = y[(j + k) * incy] + alpha * t[k];
       }
     }

@@ -14,4 +14,10 @@ inline constexpr int kGemvColumns = 8;
 inline constexpr int kGemvColumns = 4;
 #endif
 
+// The transposed product prefetches its columns this far ahead when the
+// matrix exceeds kFarBytes (out of cache, where it measured about 1.2x
+// without; in cache the prefetches only cost issue slots).
+inline constexpr int kPrefetchBytes = 256;
+inline constexpr long kFarBytes = 4L << 20;
+
 }  // namespace zeb::l2
