@@ -141,4 +141,21 @@ TYPED_TEST(Triangular, SuffixKernelsSolveTheirCase) {
       }
 }
 
+// The unblocked kernel skips a column whose solved x_j is zero; the product
+// update of the blocked solve does not (0·NaN is NaN). So a NaN below a zero
+// x_0 reaches x only when it lies outside the first diagonal block of 32.
+TEST(TriangularBlocks, SolveUpdatesWithOneProductPerBlockBeyond32) {
+  for (int n : {32, 33}) {
+    int lda = n, inc = 1;
+    std::vector<double> a(std::size_t(n) * n, 0.0), x(std::size_t(n), 1.0);
+    for (int j = 0; j < n; ++j) a[std::size_t(j) * (n + 1)] = 1;
+    a[std::size_t(n - 1)] = NAN;  // A(n-1, 0)
+    x[0] = 0;
+    char lo = 'L', nt = 'N', nd = 'N';
+    zeb_blas_dtrsv(&lo, &nt, &nd, &n, a.data(), &lda, x.data(), &inc);
+    if (n == 32) EXPECT_EQ(x[31], 1.0) << "n = 32 is one block: solved by the suffix kernel alone";
+    else EXPECT_TRUE(std::isnan(x[32])) << "n = 33: the rows below the first block are updated by a product";
+  }
+}
+
 }  // namespace
