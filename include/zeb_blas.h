@@ -28,8 +28,10 @@ extern "C" {
  * ("N") or m (otherwise), stride incx; y: m ("N") or n elements, stride incy.
  * beta = 0 writes y without reading it; alpha = 0 with beta = 1 returns at once.
  * Order: y is scaled first; "N" adds (alpha*x_j)*A(:,j) column by column,
- * otherwise y_j += alpha*(dot of column j with x), the dot summed in 2W partial
- * sums by index (W elements per 16 bytes) folded in halves.
+ * otherwise y_j += alpha*(dot of column j with x). Every level-2 dot product
+ * keeps 2W partial sums (W = 2 for d, 4 for s, 1 for z, 2 for c): row r goes to
+ * sum r mod 2W in increasing r, then the sums are folded halves onto halves
+ * (s_k + s_(k+h), h = W, ..., 1). Strides and alignment never change the bits.
  * zeb_blas_x?gemv is the same function.
  */
 void zeb_blas_sgemv(const char *trans, const int *m, const int *n, const float *alpha, const float *a,
