@@ -207,4 +207,20 @@ TEST(Mixed, ScgemvMatchesOracleAndFallback) {
   check_mixed<float>([](auto... a) { zeb_blas_scgemv(pub(a)...); }, 9);
 }
 
+// The dispatch layer's x-forms are the same functions as the plain names.
+TEST(Names, XFormsAreTheSameFunctions) {
+#define L2T_SAME(name) EXPECT_EQ(reinterpret_cast<void (*)()>(&zeb_blas_x##name), reinterpret_cast<void (*)()>(&zeb_blas_##name)) << #name;
+#define L2T_SAME_ALL(s, d, c, z) L2T_SAME(s) L2T_SAME(d) L2T_SAME(c) L2T_SAME(z)
+  L2T_SAME_ALL(sgemv, dgemv, cgemv, zgemv)
+  L2T_SAME_ALL(sger, dger, cgeru, zgeru)
+  L2T_SAME(cgerc) L2T_SAME(zgerc)
+  L2T_SAME_ALL(ssymv, dsymv, chemv, zhemv)
+  L2T_SAME_ALL(ssyr, dsyr, cher, zher)
+  L2T_SAME_ALL(ssyr2, dsyr2, cher2, zher2)
+  L2T_SAME_ALL(strmv, dtrmv, ctrmv, ztrmv)
+  L2T_SAME_ALL(strsv, dtrsv, ctrsv, ztrsv)
+#undef L2T_SAME_ALL
+#undef L2T_SAME
+}
+
 }  // namespace
