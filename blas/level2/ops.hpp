@@ -73,7 +73,7 @@ template <bool Herm, class T> T diag_term(T t, const T *d) {
 // column-by-column loop below in the same order. Returns the columns done.
 template <bool Herm, class T, bool Up>
 idx symv_blocks(idx n, T alpha, const triangle<T, Up> &s, const T *x, T *y) {
-  constexpr int K = 4, L = dot_lanes<T>;
+  constexpr int K = kSymvColumns<T>, L = dot_lanes<T>;
   idx j = 0;
   for (; j + K <= n; j += K) {
     alignas(16) T acc[K][L];

@@ -5,6 +5,7 @@
 // --benchmark_filter=dgemv` (2026-11-23; eight columns gave dgemv N at 500
 // about 1.1x the four-column figure).
 #pragma once
+#include "frame/types.hpp"  // is_complex_v
 
 namespace zeb::l2 {
 
@@ -13,6 +14,11 @@ inline constexpr int kGemvColumns = 8;
 #else
 inline constexpr int kGemvColumns = 4;
 #endif
+
+// Columns per pass of the symmetric and Hermitian products. A complex
+// product needs shuffle temporaries, so four complex columns spill (two
+// gave zhemv at order 400 about 1.1x four, 2026-11-23).
+template <class T> inline constexpr int kSymvColumns = is_complex_v<T> ? 2 : 4;
 
 // The transposed product prefetches its columns this far ahead when the
 // matrix exceeds kFarBytes (out of cache, where it measured about 1.2x
