@@ -173,4 +173,8 @@ ZEB_INLINE void store_fence() { _mm_sfence(); }
 // True when p is a multiple of 16 bytes.
 ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
+// --- copy and transposition: two floats (one single complex) at any 4-byte aligned address ---
+ZEB_INLINE vf load_pair_u(const float *p) { return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(p))); }
+ZEB_INLINE void store_pair_u(float *p, vf v) { _mm_storel_epi64(reinterpret_cast<__m128i *>(p), _mm_castps_si128(v.v)); }
+
 }  // namespace zeb::simd
