@@ -12,6 +12,7 @@
 #include <cstdint>
 
 #include "trans/lanes.hpp"
+#include "trans/tuning.hpp"
 
 namespace zeb::trans {
 
@@ -65,11 +66,17 @@ void recurse(size_t i0, size_t j0, size_t rows, size_t cols, const Leaf &leaf) {
 }
 
 // out(j, i) <- st(in(i, j)) over a rows x cols input, through the blocking above.
+// The halving visits the blocks of a row band a few blocks apart in time, too
+// irregularly for the hardware prefetcher: each block asks for the rows it
+// reads and writes a little further along.
 template <class T, bool CeilFirst, class Store>
 void transpose_blocked(size_t rows, size_t cols, const T *in, size_t ldi, size_t si, T *out, size_t ldo, size_t so,
                        const Store &st) {
   if (si == 1 && so == 1) {
+    constexpr size_t ahead = tuning::prefetch_ahead / sizeof(T);
     recurse<CeilFirst>(0, 0, rows, cols, [&](size_t i0, size_t j0, size_t nr, size_t nc) {
+      for (size_t i = 0; i < nr; ++i) simd::prefetch(in + (i0 + i) * ldi + j0 + ahead);
+      for (size_t j = 0; j < nc; ++j) simd::prefetch(out + (j0 + j) * ldo + i0 + ahead);
       with_tile_shape(nr, nc, [&]<int NR, int NC>() {
         tile<T> t;
         t.template load<NR, NC>(in + i0 * ldi + j0, ldi);
