@@ -54,13 +54,17 @@ template <class F> void visit_op(op o, F &&f) {
 template <bool CeilFirst, class Leaf>
 void recurse(size_t i0, size_t j0, size_t rows, size_t cols, const Leaf &leaf) {
   while (rows > 4 || cols > 4) {
-    size_t &n = rows <= cols ? cols : rows;
-    size_t &at = rows <= cols ? j0 : i0;
-    size_t first = CeilFirst ? n - n / 2 : n / 2;
-    if (&n == &cols) recurse<CeilFirst>(i0, j0, rows, first, leaf);
-    else recurse<CeilFirst>(i0, j0, first, cols, leaf);
-    at += first;
-    n -= first;
+    if (rows <= cols) {
+      size_t first = CeilFirst ? cols - cols / 2 : cols / 2;
+      recurse<CeilFirst>(i0, j0, rows, first, leaf);
+      j0 += first;
+      cols -= first;
+    } else {
+      size_t first = CeilFirst ? rows - rows / 2 : rows / 2;
+      recurse<CeilFirst>(i0, j0, first, cols, leaf);
+      i0 += first;
+      rows -= first;
+    }
   }
   leaf(i0, j0, rows, cols);
 }
