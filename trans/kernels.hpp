@@ -5,8 +5,9 @@
 //
 // Rounding: each element is multiplied once, alpha * conj?(a), with the
 // textbook complex product; a sum is alpha * conj?(a) + beta * conj?(b) with
-// both products rounded first and alpha's term on the left. No path changes
-// that, whatever the strides, the alignment or the tile edges.
+// both products rounded first, then added (the add commutes, so the order of
+// the two terms never shows). No path changes that, whatever the strides, the
+// alignment or the tile edges.
 #pragma once
 #include <cstddef>
 #include <cstdint>

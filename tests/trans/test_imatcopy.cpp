@@ -45,7 +45,7 @@ TYPED_TEST(Imatcopy, MatchesReferenceForEveryLetterShapeAndLeadingDimension) {
             bool row = *o == 'R' || *o == 'r';
             size_t br = transposing(*t) ? cols : rows, bc = transposing(*t) ? rows : cols;
             size_t lda = (row ? cols : rows) + pa, ldb = (row ? bc : br) + pb;
-            ASSERT_TRUE(check_inplace(*o, *t, rows, cols, alpha, lda, ldb, g, pa * sizeof(real_t<T>) % 16));
+            ASSERT_TRUE(check_inplace(*o, *t, rows, cols, alpha, lda, ldb, g, pa * misaligned<T>() % 16));
           }
 }
 

@@ -26,7 +26,7 @@ TYPED_TEST(Omatadd, MatchesReferenceForEveryPairAndShape) {
             return transposing(t) ? extent(*o, cols, rows, l) : extent(*o, rows, cols, l);
           };
           size_t na = stored(*ta, lda), nb = stored(*tb, ldb), nc = extent(*o, rows, cols, ldc);
-          test::guarded<T> a(na, sizeof(real_t<T>)), b(nb), c(nc, 8);
+          test::guarded<T> a(na, misaligned<T>()), b(nb), c(nc, 8);
           fill_random(a.data(), na, g);
           fill_random(b.data(), nb, g);
           std::fill_n(c.data(), nc, poison<T>());

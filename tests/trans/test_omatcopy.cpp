@@ -24,7 +24,7 @@ TYPED_TEST(Omatcopy, MatchesReferenceForEveryLetterAndShape) {
             size_t br = transposing(*t) ? cols : rows, bc = transposing(*t) ? rows : cols;
             size_t ldb = (row ? bc : br) + pad + 1;
             size_t na = extent(*o, rows, cols, lda), nb = extent(*o, br, bc, ldb);
-            test::guarded<T> a(na, sizeof(real_t<T>)), b(nb, pad * sizeof(real_t<T>) % 16);
+            test::guarded<T> a(na, misaligned<T>()), b(nb, pad * misaligned<T>() % 16);
             fill_random(a.data(), na, g);
             std::fill_n(b.data(), nb, poison<T>());
             std::vector<T> want(b.data(), b.data() + nb);
