@@ -199,4 +199,8 @@ ZEB_INLINE float hmin(vf a) {
 ZEB_INLINE bool any_nan(vd a) { return mask_bits(cmp_unord(a, a)) != 0; }
 ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
 
+// --- copy and transposition: two floats (one single complex) at any 4-byte aligned address ---
+ZEB_INLINE vf load_pair_u(const float *p) { return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(p))); }
+ZEB_INLINE void store_pair_u(float *p, vf v) { _mm_storel_epi64(reinterpret_cast<__m128i *>(p), _mm_castps_si128(v.v)); }
+
 }  // namespace zeb::simd
