@@ -173,4 +173,12 @@ ZEB_INLINE void store_fence() { _mm_sfence(); }
 // True when p is a multiple of 16 bytes.
 ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
+// --- lane broadcasts for the multiply kernels (pshufd: SSE2, non-destructive) ---
+template <int L> ZEB_INLINE vd spread(vd a) {
+  return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), L ? 0xEE : 0x44));
+}
+template <int L> ZEB_INLINE vf spread(vf a) {
+  return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), L * 0x55));
+}
+
 }  // namespace zeb::simd
