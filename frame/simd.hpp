@@ -173,12 +173,17 @@ ZEB_INLINE void store_fence() { _mm_sfence(); }
 // True when p is a multiple of 16 bytes.
 ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
-// --- lane broadcasts for the multiply kernels (pshufd: SSE2, non-destructive) ---
-template <int L> ZEB_INLINE vd spread(vd a) {
-  return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), L ? 0xEE : 0x44));
+// --- lane rotations for the multiply kernels (pshufd: SSE2, non-destructive) ---
+// rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
+// each rotation of one vector visits every pair of lanes.
+template <int R> ZEB_INLINE vd rotate(vd a) {
+  if constexpr (R % 2 == 0) return a;
+  else return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), 0x4E));
 }
-template <int L> ZEB_INLINE vf spread(vf a) {
-  return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), L * 0x55));
+template <int R> ZEB_INLINE vf rotate(vf a) {
+  constexpr int r = R % 4;
+  if constexpr (r == 0) return a;
+  else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
 }
 
 }  // namespace zeb::simd

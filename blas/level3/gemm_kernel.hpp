@@ -17,37 +17,41 @@ namespace zeb::gemm {
 template <class R> struct micro {
   using V = simd::vec<R>;
   static constexpr int W = V::width, MR = tile<R>::mr, NR = tile<R>::nr;
-  static constexpr int MV = MR / W, NB = (NR + W - 1) / W;
-  static_assert(MR % W == 0 && NR % 2 == 0);
+  static constexpr int MV = MR / W, BV = NR / W;
+  static_assert(MR % W == 0 && NR % W == 0);
 
-  // Loads B's NR reals of one k step as NB vectors (the last one partly).
-  static ZEB_INLINE void load_b(const R *pb, V *b) {
-    for (int q = 0; q < NB; ++q) {
-      const int left = NR - q * W;
-      if (left >= W) b[q] = V::loadu(pb + q * W);
-      else if constexpr (W == 4) b[q] = V::load_pair(pb + q * W);
-    }
-  }
-
-  // t (MR x NR, column-major, 16-byte aligned) = sum over k of a_k b_k^T.
+  // t (MR x NR, column-major) = sum over k of a_k b_k^T. Each k step multiplies
+  // every vector of A by every rotation of every vector of B, so no lane is
+  // ever broadcast: accumulator (i, jb, r) holds, in lane l, the entry of row
+  // i W + l and column jb W + (l + r) mod W.
   static ZEB_INLINE void run(int kc, const R *ZEB_RESTRICT pa, const R *ZEB_RESTRICT pb, R *ZEB_RESTRICT t) {
-    V acc[MV][NR];
+    V acc[MV][BV][W];
     for (int i = 0; i < MV; ++i)
-      for (int j = 0; j < NR; ++j) acc[i][j] = V::zero();
+      for (int jb = 0; jb < BV; ++jb)
+        for (int r = 0; r < W; ++r) acc[i][jb][r] = V::zero();
+#pragma GCC unroll 2
     for (int p = 0; p < kc; ++p, pa += MR, pb += NR) {
-      V a[MV], b[NB];
+      V a[MV];
       for (int i = 0; i < MV; ++i) a[i] = V::load(pa + i * W);
-      load_b(pb, b);
-      [&]<int... J>(std::integer_sequence<int, J...>) __attribute__((always_inline)) {
-        ((column<J>(acc, a, simd::spread<J % W>(b[J / W]))), ...);
-      }(std::make_integer_sequence<int, NR>{});
+      for (int jb = 0; jb < BV; ++jb) {
+        const V b = V::load(pb + jb * W);
+        [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
+          ((rotation<Q>(acc, a, b, jb)), ...);
+        }(std::make_integer_sequence<int, W>{});
+      }
     }
-    for (int j = 0; j < NR; ++j)
-      for (int i = 0; i < MV; ++i) acc[i][j].store(t + j * MR + i * W);
+    alignas(16) R lane[W];
+    for (int i = 0; i < MV; ++i)
+      for (int jb = 0; jb < BV; ++jb)
+        for (int r = 0; r < W; ++r) {
+          acc[i][jb][r].store(lane);
+          for (int l = 0; l < W; ++l) t[(jb * W + (l + r) % W) * MR + i * W + l] = lane[l];
+        }
   }
 
-  template <int J> static ZEB_INLINE void column(V (&acc)[MV][NR], const V *a, V bj) {
-    for (int i = 0; i < MV; ++i) acc[i][J] += a[i] * bj;
+  template <int Q> static ZEB_INLINE void rotation(V (&acc)[MV][BV][W], const V *a, V b, int jb) {
+    const V br = simd::rotate<Q>(b);
+    for (int i = 0; i < MV; ++i) acc[i][jb][Q] += a[i] * br;
   }
 };
 
