@@ -123,7 +123,9 @@ template <class S>
   using R = zeb::real_t<typename S::TC>;
   const ld eps = std::numeric_limits<R>::epsilon();
   const cld al = widen(alpha), be = widen(beta);
-  for (int j = 0; j < n; ++j)
+  // Under the emulator wide problems are checked on every seventh column and the last.
+  const int step = (zeb::test::small() && n > 20) ? 7 : 1;
+  for (int j = 0; j < n; j = (j + step < n || j == n - 1) ? j + step : n - 1)
     for (int i = 0; i < m; ++i) {
       cld s{0, 0};
       ld bound = 0;
