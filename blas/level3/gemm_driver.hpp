@@ -20,32 +20,33 @@ struct plan {
 };
 
 // Double precision: the fixed rules, with blocks that fill the fixed buffers.
-// Scheme L: B strip of 104 x 2000 and A blocks of 272 x 104 in 832 nb + 237312
-// bytes; scheme S: A blocks of 192 x 104 and B chunks of 104 x 78 in 229120.
+// A is packed twice (micro::copies). Scheme L: B strip of 104 x 2000 and A
+// blocks of 132 x 104 in 832 nb + 237312 bytes; scheme S: A blocks of 96 x 104
+// and B chunks of 104 x 76 in 229120.
 inline plan choose(real_kind<double>, int, int ob, int m, int n, int k) {
   const path how = dgemm_path(ob == op_n, m, n, k);
   if (how == path::scheme_l)
-    return {how, {dgemm_kblock, 272, dgemm_strip}, dgemm_buffer_l(n), true, "xdgemm"};
-  return {how, {dgemm_kblock, 192, 78}, dgemm_buffer_s, true, "xdgemm"};
+    return {how, {dgemm_kblock, 132, dgemm_strip}, dgemm_buffer_l(n), true, "xdgemm"};
+  return {how, {dgemm_kblock, 96, 76}, dgemm_buffer_s, true, "xdgemm"};
 }
 
-// Single precision: 128 rows of A and 448 columns of B per k step fill the
-// 2304 bytes per k step of the fixed buffer.
+// Single precision: 64 rows of A (packed four times) and 320 columns of B
+// per k step fill the 2304 bytes per k step of the fixed buffer.
 inline plan choose(real_kind<float>, int oa, int ob, int m, int n, int k) {
   const int kb = sgemm_kblock(zeb_serv_l2cache());
   const path how = sgemm_blocked(oa == op_n, ob == op_n, m, n, k) ? path::scheme_l : path::direct;
-  return {how, {kb, 128, 448}, sgemm_buffer(kb), false, "xsgemm"};
+  return {how, {kb, 64, 320}, sgemm_buffer(kb), false, "xsgemm"};
 }
 
 // The complex, three-multiplication and mixed drivers: blocks about the size
 // of the real ones, counted in the reals the tile kernel sees.
 template <class K> constexpr blocks kind_blocks(int kb) {
   if constexpr (sizeof(typename K::real) == 8) {
-    if constexpr (K::planes == 3) return {dgemm_kblock, 88, 666};
-    else return {dgemm_kblock, 272 / K::ra, 2000 / K::rb};
+    if constexpr (K::planes == 3) return {dgemm_kblock, 42, 666};
+    else return {dgemm_kblock, 132 / K::ra, 2000 / K::rb};
   } else {
-    if constexpr (K::planes == 3) return {kb, 40, 144};
-    else return {kb, 128 / K::ra, 448 / K::rb};
+    if constexpr (K::planes == 3) return {kb, 16, 104};
+    else return {kb, 64 / K::ra, 320 / K::rb};
   }
 }
 

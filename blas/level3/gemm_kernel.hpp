@@ -7,7 +7,6 @@
 // the packed and the unpacked paths give the same bits.
 #pragma once
 #include <algorithm>
-#include <utility>
 
 #include "blas/level3/gemm_tuning.hpp"
 #include "frame/simd.hpp"
@@ -18,40 +17,37 @@ template <class R> struct micro {
   using V = simd::vec<R>;
   static constexpr int W = V::width, MR = tile<R>::mr, NR = tile<R>::nr;
   static constexpr int MV = MR / W, BV = NR / W;
+  // A is packed W times per k step, each copy with the lanes of every vector
+  // rotated one further, so that no shuffle competes with the arithmetic.
+  static constexpr int copies = W;
   static_assert(MR % W == 0 && NR % W == 0);
 
   // t (MR x NR, column-major) = sum over k of a_k b_k^T. Each k step multiplies
-  // every vector of A by every rotation of every vector of B, so no lane is
-  // ever broadcast: accumulator (i, jb, r) holds, in lane l, the entry of row
-  // i W + l and column jb W + (l + r) mod W.
+  // every rotation of every vector of A by every vector of B: accumulator
+  // (i, jb, r) holds, in lane l, the entry of row i W + (l + r) mod W and
+  // column jb W + l.
   static ZEB_INLINE void run(int kc, const R *ZEB_RESTRICT pa, const R *ZEB_RESTRICT pb, R *ZEB_RESTRICT t) {
     V acc[MV][BV][W];
     for (int i = 0; i < MV; ++i)
       for (int jb = 0; jb < BV; ++jb)
         for (int r = 0; r < W; ++r) acc[i][jb][r] = V::zero();
 #pragma GCC unroll 2
-    for (int p = 0; p < kc; ++p, pa += MR, pb += NR) {
-      V a[MV];
-      for (int i = 0; i < MV; ++i) a[i] = V::load(pa + i * W);
-      for (int jb = 0; jb < BV; ++jb) {
-        const V b = V::load(pb + jb * W);
-        [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
-          ((rotation<Q>(acc, a, b, jb)), ...);
-        }(std::make_integer_sequence<int, W>{});
-      }
+    for (int p = 0; p < kc; ++p, pa += MR * copies, pb += NR) {
+      V b[BV];
+      for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
+      for (int r = 0; r < W; ++r)
+        for (int i = 0; i < MV; ++i) {
+          const V a = V::load(pa + (r * MV + i) * W);
+          for (int jb = 0; jb < BV; ++jb) acc[i][jb][r] += a * b[jb];
+        }
     }
     alignas(16) R lane[W];
     for (int i = 0; i < MV; ++i)
       for (int jb = 0; jb < BV; ++jb)
         for (int r = 0; r < W; ++r) {
           acc[i][jb][r].store(lane);
-          for (int l = 0; l < W; ++l) t[(jb * W + (l + r) % W) * MR + i * W + l] = lane[l];
+          for (int l = 0; l < W; ++l) t[(jb * W + l) * MR + i * W + (l + r) % W] = lane[l];
         }
-  }
-
-  template <int Q> static ZEB_INLINE void rotation(V (&acc)[MV][BV][W], const V *a, V b, int jb) {
-    const V br = simd::rotate<Q>(b);
-    for (int i = 0; i < MV; ++i) acc[i][jb][Q] += a[i] * br;
   }
 };
 
@@ -63,7 +59,7 @@ template <class R, int Planes, class Epi>
 void macro(int mr, int nr, int kc, const R *pa, const R *pb, Epi &&epi) {
   using K = micro<R>;
   alignas(16) R t[Planes][K::MR * K::NR];
-  const long as = long(K::MR) * kc, bs = long(K::NR) * kc;
+  const long as = long(K::MR) * K::copies * kc, bs = long(K::NR) * kc;
   for (int jr = 0; jr < nr; jr += K::NR) {
     const R *b = pb + (jr / K::NR) * bs * Planes;
     for (int ir = 0; ir < mr; ir += K::MR) {

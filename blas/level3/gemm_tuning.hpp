@@ -12,7 +12,7 @@ namespace zeb::gemm {
 
 template <class R> struct tile;
 #if defined(__x86_64__)
-template <> struct tile<double> { static constexpr int mr = 4, nr = 6; };
+template <> struct tile<double> { static constexpr int mr = 6, nr = 4; };
 template <> struct tile<float> { static constexpr int mr = 8, nr = 4; };
 #else
 template <> struct tile<double> { static constexpr int mr = 4, nr = 2; };

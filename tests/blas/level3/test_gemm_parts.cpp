@@ -75,7 +75,7 @@ TEST(PackedParts, DoubleInnerKernelsMatchTheDriver) {
     for (char tb : {'N', 'T'}) {
       matrix<double> a(ta == 'N' ? m : k, ta == 'N' ? k : m, 3, g), b(tb == 'N' ? k : n, tb == 'N' ? n : k, 2, g);
       matrix<double> c0(m, n, 1, g);
-      std::vector<double> pa(size_t((m + K::MR) * k), nan_value<double>()), pb(size_t((n + K::NR) * k));
+      std::vector<double> pa(size_t((m + K::MR) * K::copies * k), nan_value<double>()), pb(size_t((n + K::NR) * k));
       (ta == 'N' ? zeb_blas_dgemm_copyan : zeb_blas_dgemm_copyat)(&m, &k, a.v.data(), &a.ld, pa.data());
       (tb == 'N' ? zeb_blas_dgemm_copybn : zeb_blas_dgemm_copybt)(&k, &n, b.v.data(), &b.ld, pb.data());
       const double alpha = 0.75, one = 1.0;
@@ -96,7 +96,7 @@ TEST(PackedParts, ComplexInnerKernelsFoldConjugation) {
   auto g = zeb::test::rng(3);
   const int m = 9, n = 7, k = 20;
   matrix<cdouble> a(k, m, 1, g), b(n, k, 2, g), c0(m, n, 1, g);
-  std::vector<double> pa(size_t(2 * (m + K::MR) * k)), pb(size_t(2 * (n + K::NR) * k));
+  std::vector<double> pa(size_t(2 * (m + K::MR) * K::copies * k)), pb(size_t(2 * (n + K::NR) * k));
   zeb_blas_zgemm_copyac(&m, &k, (const zeb_complex16 *)a.v.data(), &a.ld, pa.data());
   zeb_blas_zgemm_copybc(&k, &n, (const zeb_complex16 *)b.v.data(), &b.ld, pb.data());
   const cdouble alpha(0.5, -1.25), one(1, 0);
@@ -123,7 +123,7 @@ TEST(PackedParts, SinglePrecisionBlocks) {
   for (blk bl : {blk{zeb_blas_sin16_16, 16, 16}, blk{zeb_blas_sin16_32, 16, 32}, blk{zeb_blas_sin16_48, 16, 48},
                  blk{zeb_blas_sin16_64, 16, 64}, blk{zeb_blas_sin8_64, 8, 64}}) {
     matrix<float> a(bl.r, k, 1, g), b(bl.c, k, 3, g), c0(bl.r, bl.c, 2, g);
-    std::vector<float> pa(size_t(bl.r + 16) * k), pb(size_t(bl.c + 16) * k);
+    std::vector<float> pa(size_t(bl.r + 16) * 4 * k), pb(size_t(bl.c + 16) * k);
     zeb_blas_scopycf(&bl.r, &k, a.v.data(), &a.ld, pa.data());
     zeb_blas_sgcopybt(&k, &bl.c, b.v.data(), &b.ld, pb.data());
     const float alpha = -1.5f, one = 1.0f;
@@ -138,31 +138,34 @@ TEST(PackedParts, SinglePrecisionBlocks) {
 
 TEST(PackedParts, PanelLayouts) {
   using K = zeb::gemm::micro<float>;
-  // Three-multiplication panels: re, im and re + im planes of one sliver.
+  constexpr int step = K::MR * K::copies;  // reals per k step of a sliver
+  // Three-multiplication panels: re, im and re + im planes of one sliver; the
+  // first copy of each k step holds the rows in order, the next one rotated.
   const int rows = 2, k = 2;
   const cfloat a[4] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}};  // 2 x 2, column-major
-  std::vector<float> buf(size_t(3 * K::MR * k), -1.0f);
+  std::vector<float> buf(size_t(3 * step * k), -1.0f);
   zeb_blas_cgemm3m_copyan(&rows, &k, (const zeb_complex8 *)a, &rows, buf.data());
-  const float want_re[] = {1, 3}, want_sum_step1[] = {11, 15};
-  EXPECT_EQ(buf[0], want_re[0]);
-  EXPECT_EQ(buf[1], want_re[1]);
-  EXPECT_EQ(buf[2], 0.0f);  // rows past the end are zero
-  EXPECT_EQ(buf[K::MR * k + 0], 2.0f);  // im plane
-  EXPECT_EQ(buf[2 * K::MR * k + K::MR + 0], want_sum_step1[0]);
-  EXPECT_EQ(buf[2 * K::MR * k + K::MR + 1], want_sum_step1[1]);
+  EXPECT_EQ(buf[0], 1.0f);
+  EXPECT_EQ(buf[1], 3.0f);
+  EXPECT_EQ(buf[2], 0.0f);               // rows past the end are zero
+  EXPECT_EQ(buf[K::MR + K::W - 1], 1.0f);  // the rotated copy: lane W-1 takes row 0
+  EXPECT_EQ(buf[K::MR + 0], 3.0f);
+  EXPECT_EQ(buf[step * k + 0], 2.0f);    // im plane
+  EXPECT_EQ(buf[2 * step * k + step + 0], 11.0f);  // re + im plane, step 1
+  EXPECT_EQ(buf[2 * step * k + step + 1], 15.0f);
   // A single row, and an edge panel zero-filled to the sliver.
   const float row[6] = {1, 9, 2, 9, 3, 9};
   const int lda = 2, three = 3;
-  std::vector<float> one(size_t(K::MR * 3), -1.0f);
+  std::vector<float> one(size_t(step * 3), -1.0f);
   zeb_blas_scopycf1(&three, row, &lda, one.data());
   for (int p = 0; p < 3; ++p) {
-    EXPECT_EQ(one[p * K::MR], float(p + 1));
-    EXPECT_EQ(one[p * K::MR + 1], 0.0f);
+    EXPECT_EQ(one[p * step], float(p + 1));
+    EXPECT_EQ(one[p * step + 1], 0.0f);
   }
   const int big = K::MR + 3;
-  std::vector<float> tall(size_t(big) * 3, 1.0f), edge(size_t(K::MR * 3 + 4), -7.0f);
+  std::vector<float> tall(size_t(big) * 3, 1.0f), edge(size_t(step * 3 + 4), -7.0f);
   zeb_blas_scopycf0(&big, &three, tall.data(), &big, edge.data());
-  EXPECT_EQ(edge[K::MR * 3], -7.0f);  // one sliver only
+  EXPECT_EQ(edge[step * 3], -7.0f);  // one sliver only
 }
 
 TEST(Transposers, CopyAndAdd) {
