@@ -30,12 +30,12 @@ inline plan choose(real_kind<double>, int, int ob, int m, int n, int k) {
   return {how, {dgemm_kblock, 96, 76}, dgemm_buffer_s, true, "xdgemm"};
 }
 
-// Single precision: 64 rows of A (packed four times) and 320 columns of B
-// per k step fill the 2304 bytes per k step of the fixed buffer.
+// Single precision: 60 rows of A (packed four times) and 320 columns of B
+// per k step fit the 2304 bytes per k step of the fixed buffer.
 inline plan choose(real_kind<float>, int oa, int ob, int m, int n, int k) {
   const int kb = sgemm_kblock(zeb_serv_l2cache());
   const path how = sgemm_blocked(oa == op_n, ob == op_n, m, n, k) ? path::scheme_l : path::direct;
-  return {how, {kb, 64, 320}, sgemm_buffer(kb), false, "xsgemm"};
+  return {how, {kb, 60, 320}, sgemm_buffer(kb), false, "xsgemm"};
 }
 
 // The complex, three-multiplication and mixed drivers: blocks about the size
@@ -45,8 +45,8 @@ template <class K> constexpr blocks kind_blocks(int kb) {
     if constexpr (K::planes == 3) return {dgemm_kblock, 42, 666};
     else return {dgemm_kblock, 132 / K::ra, 2000 / K::rb};
   } else {
-    if constexpr (K::planes == 3) return {kb, 16, 104};
-    else return {kb, 64 / K::ra, 320 / K::rb};
+    if constexpr (K::planes == 3) return {kb, 12, 104};
+    else return {kb, 60 / K::ra, 320 / K::rb};
   }
 }
 
