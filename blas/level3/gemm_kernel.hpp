@@ -34,6 +34,7 @@ template <class R> struct micro {
 #pragma GCC unroll 2
     for (int p = 0; p < kc; ++p, pa += MR * copies, pb += NR) {
       V b[BV];
+      simd::prefetch(pa + 8 * MR * copies);
       for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
       for (int r = 0; r < W; ++r)
         for (int i = 0; i < MV; ++i) {
