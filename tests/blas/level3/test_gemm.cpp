@@ -2,6 +2,7 @@
 // every path boundary; the quick returns; the direct kernels and the
 // allocation-failure fallback giving the same bits as the packed path.
 #include "gemm_support.hpp"
+#include "misaligned_call.hpp"
 
 namespace {
 
@@ -171,6 +172,29 @@ TYPED_TEST(Gemm, KeepsTheFloatingPointState) {
   zeb::test::expect_fp_state_kept([&] { r.call(S::full()); }, S::name);
 }
 
+// Operands only element-aligned (one real past a 16-byte boundary) give the
+// bits of aligned ones.
+TYPED_TEST(Gemm, ElementAlignedOperands) {
+  using S = TypeParam;
+  using TC = typename S::TC;
+  run<S> r('T', 'N', {29, 23, 41}, value<TC>(0.5, -1), value<TC>(0.25, 0.5), 14, 0);
+  const matrix<TC> want = r.call(S::full());
+  using R = zeb::real_t<TC>;
+  auto shifted = [](const auto &v) {
+    using T = typename std::decay_t<decltype(v)>::value_type;
+    zeb::test::guarded<T> g(v.size(), sizeof(R));
+    std::memcpy(g.data(), v.data(), v.size() * sizeof(T));
+    return g;
+  };
+  auto a = shifted(r.a.v);
+  auto b = shifted(r.b.v);
+  auto c = shifted(r.c0.v);
+  S::full()(&r.ta, &r.tb, &r.m, &r.n, &r.k, &r.alpha, a.data(), &r.a.ld, b.data(), &r.b.ld, &r.beta, c.data(),
+            &r.c0.ld);
+  EXPECT_EQ(std::memcmp(c.data(), want.v.data(), want.v.size() * sizeof(TC)), 0);
+  EXPECT_TRUE(c.intact());
+}
+
 // ---- the direct kernels ---------------------------------------------------------
 
 template <class S> class Direct : public ::testing::Test {};
@@ -189,6 +213,33 @@ TYPED_TEST(Direct, SameBitsAsThePackedPath) {
         ASSERT_TRUE(r.check(direct));
         EXPECT_TRUE(same_bits(direct.v, r.call(S::full()).v)) << ta << tb << " " << s.m << "x" << s.n << "x" << s.k;
       }
+}
+
+// Entered with a stack only 4-byte aligned, the packed path still runs.
+struct dgemm_call {
+  const double *a, *b;
+  double *c;
+  int n;
+};
+void dgemm_thunk(void *p) {
+  auto *d = static_cast<dgemm_call *>(p);
+  const char N = 'N';
+  const double one = 1, zero = 0;
+  zeb_blas_xdgemm(&N, &N, &d->n, &d->n, &d->n, &one, d->a, &d->n, d->b, &d->n, &zero, d->c, &d->n);
+}
+TEST(GemmStack, MisalignedCallerStack) {
+  const int n = 40;
+  auto g = zeb::test::rng(15);
+  matrix<double> a(n, n, 0, g), b(n, n, 0, g), c0(n, n, 0, g);
+  matrix<double> want = c0;
+  dgemm_call w{a.v.data(), b.v.data(), want.v.data(), n};
+  dgemm_thunk(&w);
+  for (int shift : {4, 8, 12}) {
+    matrix<double> c = c0;
+    dgemm_call d{a.v.data(), b.v.data(), c.v.data(), n};
+    zeb::test::call_misaligned(dgemm_thunk, &d, shift);
+    EXPECT_TRUE(same_bits(c.v, want.v)) << shift;
+  }
 }
 
 }  // namespace

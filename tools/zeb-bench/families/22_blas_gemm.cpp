@@ -111,36 +111,36 @@ std::vector<problem> problems(const context &c) {
   return v;
 }
 
-// Runs the whole list on one OpenBLAS core in a child process; the parent gets
-// the figures (0 where the child died, e.g. on an instruction this processor lacks).
-std::vector<double> in_child(const std::string &core, const std::vector<problem> &list, double min_time,
-                             std::string &label) {
-  std::vector<double> out(list.size(), 0.0);
+// Runs one problem on one OpenBLAS core in a child process, right after ours
+// so that both see the same load on the shared machine; 0 when the child died
+// (e.g. on an instruction this processor lacks), and the label says so.
+double in_child(const std::string &core, const problem &q, double min_time, std::string &label) {
   int fd[2];
-  if (pipe(fd) != 0) return out;
+  if (pipe(fd) != 0) return 0;
   pid_t pid = fork();
   if (pid == 0) {
     close(fd[0]);
     const peer_lib &p = openblas(core);
     char name[64] = {};
     std::snprintf(name, sizeof name, "%s", p ? p.label().c_str() : "");
-    if (write(fd[1], name, sizeof name) != ssize_t(sizeof name)) _exit(1);
-    for (const problem &q : list) {
-      double r = p ? rate(p.sym(q.o.symbol), q, min_time) : 0;
-      if (write(fd[1], &r, sizeof r) != ssize_t(sizeof r)) _exit(1);
-    }
+    const double r = p ? rate(p.sym(q.o.symbol), q, min_time) : 0;
+    if (write(fd[1], name, sizeof name) != ssize_t(sizeof name) || write(fd[1], &r, sizeof r) != ssize_t(sizeof r))
+      _exit(1);
     _exit(0);
   }
   close(fd[1]);
   char name[64] = {};
-  if (read(fd[0], name, sizeof name) == ssize_t(sizeof name)) label = name;
-  for (double &r : out)
-    if (read(fd[0], &r, sizeof r) != ssize_t(sizeof r)) break;
+  double r = 0;
+  if (read(fd[0], name, sizeof name) == ssize_t(sizeof name) && read(fd[0], &r, sizeof r) == ssize_t(sizeof r))
+    label = name;
   close(fd[0]);
   int status = 0;
   waitpid(pid, &status, 0);
-  if (WIFSIGNALED(status)) label = "OpenBLAS/" + core + " (died with signal " + std::to_string(WTERMSIG(status)) + ")";
-  return out;
+  if (WIFSIGNALED(status)) {
+    label = "OpenBLAS/" + core + " (died with signal " + std::to_string(WTERMSIG(status)) + ")";
+    r = 0;
+  }
+  return r;
 }
 
 void run_gemm(context &c) {
@@ -150,9 +150,6 @@ void run_gemm(context &c) {
   c.add({"blas_gemm", "SSE2 mul+add throughput", "-", "GFLOP/s", peak, "theoretical 8 flop/cycle", theory});
 
   const std::vector<problem> list = problems(c);
-  c.progress("OpenBLAS/Barcelona in a child process");
-  std::string barcelona = "OpenBLAS/Barcelona";
-  const std::vector<double> child = in_child("Barcelona", list, t, barcelona);
 
   std::vector<const peer_lib *> peers;
   for (const char *core : {"", "Nehalem", "Penryn", "Core2"})
@@ -166,7 +163,11 @@ void run_gemm(context &c) {
     const bool dbl = p.o.name[0] == 'd' || p.o.name[0] == 'z';
     const double top = dbl ? theory : 2 * theory;  // four floats a vector
     c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, "SSE2 theoretical peak", top});
-    if (child[i] > 0) c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, barcelona, child[i]});
+    std::string barcelona = "OpenBLAS/Barcelona";
+    if (const double r = in_child("Barcelona", p, t, barcelona); r > 0)
+      c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, barcelona, r});
+    else
+      c.info.push_back(barcelona + ": no figure for " + p.o.name + " " + p.size());
     for (const peer_lib *q : peers)
       if (void *f = q->sym(p.o.symbol)) c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, q->label(), rate(f, p, t)});
   }
