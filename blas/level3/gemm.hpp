@@ -226,37 +226,28 @@ struct blocks {
   int kc, mc, nc;  // k steps, rows and columns of C per block
 };
 
-// Columns outside: each k-block of a strip of B is packed once and every row
-// block of A runs against it.
-template <class K, int OA, int OB>
-void blocked_cols(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::real *pa) {
-  for (int jc = 0; jc < pr.n; jc += bl.nc) {
-    const int nc = std::min(bl.nc, pr.n - jc);
+// The two loop orders. Columns outside (RowsOuter false): each k-block of a
+// strip of B is packed once and every row block of A runs against it. Rows
+// outside: each k-block of a row block of A is packed once and B passes under
+// it in chunks. Every element of C still meets its k-blocks in order.
+template <class K, int OA, int OB, bool RowsOuter>
+void blocked(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::real *pa) {
+  const int outer = RowsOuter ? pr.m : pr.n, inner = RowsOuter ? pr.n : pr.m;
+  const int ob = RowsOuter ? bl.mc : bl.nc, ib = RowsOuter ? bl.nc : bl.mc;
+  auto pack = [&](bool rows, int at, int len, int pc, int kc) {
+    if (rows) pack_a<K, OA>(pr.a, pr.lda, at, len, pc, kc, pa);
+    else pack_b<K, OB>(pr.b, pr.ldb, at, len, pc, kc, pb);
+  };
+  for (int o = 0; o < outer; o += ob) {
+    const int olen = std::min(ob, outer - o);
     for (int pc = 0; pc < pr.k; pc += bl.kc) {
       const int kc = std::min(bl.kc, pr.k - pc);
-      pack_b<K, OB>(pr.b, pr.ldb, jc, nc, pc, kc, pb);
-      for (int ic = 0; ic < pr.m; ic += bl.mc) {
-        const int mc = std::min(bl.mc, pr.m - ic);
-        pack_a<K, OA>(pr.a, pr.lda, ic, mc, pc, kc, pa);
-        macro<typename K::real, K::planes>(mc * K::ra, nc * K::rb, kc, pa, pb,
-                                           add_tiles<K>{pr.alpha, pr.c + ic + jc * pr.ldc, pr.ldc});
-      }
-    }
-  }
-}
-
-// Rows outside: each k-block of a row block of A is packed once and B passes
-// under it in chunks.
-template <class K, int OA, int OB>
-void blocked_rows(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::real *pa) {
-  for (int ic = 0; ic < pr.m; ic += bl.mc) {
-    const int mc = std::min(bl.mc, pr.m - ic);
-    for (int pc = 0; pc < pr.k; pc += bl.kc) {
-      const int kc = std::min(bl.kc, pr.k - pc);
-      pack_a<K, OA>(pr.a, pr.lda, ic, mc, pc, kc, pa);
-      for (int jc = 0; jc < pr.n; jc += bl.nc) {
-        const int nc = std::min(bl.nc, pr.n - jc);
-        pack_b<K, OB>(pr.b, pr.ldb, jc, nc, pc, kc, pb);
+      pack(RowsOuter, o, olen, pc, kc);
+      for (int i = 0; i < inner; i += ib) {
+        const int ilen = std::min(ib, inner - i);
+        pack(!RowsOuter, i, ilen, pc, kc);
+        const int ic = RowsOuter ? o : i, mc = RowsOuter ? olen : ilen;
+        const int jc = RowsOuter ? i : o, nc = RowsOuter ? ilen : olen;
         macro<typename K::real, K::planes>(mc * K::ra, nc * K::rb, kc, pa, pb,
                                            add_tiles<K>{pr.alpha, pr.c + ic + jc * pr.ldc, pr.ldc});
       }

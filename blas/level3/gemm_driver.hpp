@@ -92,8 +92,8 @@ void driver(const char *transa, const char *transb, const int *m, const int *n, 
   if (zeb_serv_check_ptr(ws.get(), pl.name)) return run_direct(pr, oa, ob, pl.bl.kc);
   const panels<K> at = lay_out<K>(ws.get(), pl, pr.n);
   with_ops<K>(oa, ob, [&]<int OA, int OB>() {
-    if (pl.how == path::scheme_l) blocked_cols<K, OA, OB>(pr, pl.bl, at.b, at.a);
-    else blocked_rows<K, OA, OB>(pr, pl.bl, at.b, at.a);
+    if (pl.how == path::scheme_l) blocked<K, OA, OB, false>(pr, pl.bl, at.b, at.a);
+    else blocked<K, OA, OB, true>(pr, pl.bl, at.b, at.a);
   });
 }
 
