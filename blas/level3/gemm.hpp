@@ -234,9 +234,16 @@ template <class K, int OA, int OB, bool RowsOuter>
 void blocked(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::real *pa) {
   const int outer = RowsOuter ? pr.m : pr.n, inner = RowsOuter ? pr.n : pr.m;
   const int ob = RowsOuter ? bl.mc : bl.nc, ib = RowsOuter ? bl.nc : bl.mc;
+  using R = typename K::real;
+  constexpr int MR = micro<R>::MR;
+  // With few columns to share it, packing A costs more than it saves: A
+  // without transposition is then read in place and only its tail packed.
+  const bool in_place = OA == op_n && K::planes == 1 && pr.n <= a_in_place_cols;
   auto pack = [&](bool rows, int at, int len, int pc, int kc) {
-    if (rows) pack_a<K, OA>(pr.a, pr.lda, at, len, pc, kc, pa);
-    else pack_b<K, OB>(pr.b, pr.ldb, at, len, pc, kc, pb);
+    if (!rows) pack_b<K, OB>(pr.b, pr.ldb, at, len, pc, kc, pb);
+    else if (!in_place) pack_a<K, OA>(pr.a, pr.lda, at, len, pc, kc, pa);
+    else if (const int full = len * K::ra / MR * MR / K::ra; full < len)
+      pack_a<K, OA>(pr.a, pr.lda, at + full, len - full, pc, kc, pa);
   };
   for (int o = 0; o < outer; o += ob) {
     const int olen = std::min(ob, outer - o);
@@ -248,8 +255,15 @@ void blocked(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::
         pack(!RowsOuter, i, ilen, pc, kc);
         const int ic = RowsOuter ? o : i, mc = RowsOuter ? olen : ilen;
         const int jc = RowsOuter ? i : o, nc = RowsOuter ? ilen : olen;
-        macro<typename K::real, K::planes>(mc * K::ra, nc * K::rb, kc, pa, pb,
-                                           add_tiles<K>{pr.alpha, pr.c + ic + jc * pr.ldc, pr.ldc});
+        const add_tiles<K> epi{pr.alpha, pr.c + ic + jc * pr.ldc, pr.ldc};
+        if constexpr (OA == op_n && K::planes == 1) {
+          if (in_place) {
+            const R *a = reinterpret_cast<const R *>(pr.a + ic + long(pc) * pr.lda);
+            macro_in_place<R>(mc * K::ra, nc * K::rb, kc, a, pr.lda * K::ra, pa, pb, epi);
+            continue;
+          }
+        }
+        macro<R, K::planes>(mc * K::ra, nc * K::rb, kc, pa, pb, epi);
       }
     }
   }

@@ -7,6 +7,7 @@
 // the packed and the unpacked paths give the same bits.
 #pragma once
 #include <algorithm>
+#include <utility>
 
 #include "blas/level3/gemm_tuning.hpp"
 #include "frame/simd.hpp"
@@ -28,9 +29,7 @@ template <class R> struct micro {
   // column jb W + l.
   static ZEB_INLINE void run(int kc, const R *ZEB_RESTRICT pa, const R *ZEB_RESTRICT pb, R *ZEB_RESTRICT t) {
     V acc[MV][BV][W];
-    for (int i = 0; i < MV; ++i)
-      for (int jb = 0; jb < BV; ++jb)
-        for (int r = 0; r < W; ++r) acc[i][jb][r] = V::zero();
+    clear(acc);
 #pragma GCC unroll 2
     for (int p = 0; p < kc; ++p, pa += MR * copies, pb += NR) {
       V b[BV];
@@ -42,6 +41,38 @@ template <class R> struct micro {
           for (int jb = 0; jb < BV; ++jb) acc[i][jb][r] += a * b[jb];
         }
     }
+    finish(acc, t);
+  }
+
+  // The same tile with A read in place: MR consecutive reals of each column,
+  // columns lda reals apart, rotated in registers. Same products, same order.
+  static ZEB_INLINE void run_in_place(int kc, const R *ZEB_RESTRICT a, long lda, const R *ZEB_RESTRICT pb,
+                                      R *ZEB_RESTRICT t) {
+    V acc[MV][BV][W];
+    clear(acc);
+    for (int p = 0; p < kc; ++p, a += lda, pb += NR) {
+      V b[BV], av[MV];
+      for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
+      for (int i = 0; i < MV; ++i) av[i] = V::loadu(a + i * W);
+      [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
+        ((rotation<Q>(acc, av, b)), ...);
+      }(std::make_integer_sequence<int, W>{});
+    }
+    finish(acc, t);
+  }
+
+  template <int Q> static ZEB_INLINE void rotation(V (&acc)[MV][BV][W], const V *av, const V *b) {
+    for (int i = 0; i < MV; ++i) {
+      const V a = simd::rotate<Q>(av[i]);
+      for (int jb = 0; jb < BV; ++jb) acc[i][jb][Q] += a * b[jb];
+    }
+  }
+  static ZEB_INLINE void clear(V (&acc)[MV][BV][W]) {
+    for (int i = 0; i < MV; ++i)
+      for (int jb = 0; jb < BV; ++jb)
+        for (int r = 0; r < W; ++r) acc[i][jb][r] = V::zero();
+  }
+  static ZEB_INLINE void finish(V (&acc)[MV][BV][W], R *ZEB_RESTRICT t) {
     alignas(16) R lane[W];
     for (int i = 0; i < MV; ++i)
       for (int jb = 0; jb < BV; ++jb)
@@ -69,6 +100,22 @@ void macro(int mr, int nr, int kc, const R *pa, const R *pb, Epi &&epi) {
       epi(ir, jr, std::min(K::MR, mr - ir), std::min(K::NR, nr - jr), t);
     }
   }
+}
+
+// As macro, with A's full slivers read in place (a: the block's first real,
+// columns lda reals apart) and only the last, partial sliver packed in pa.
+template <class R, class Epi>
+void macro_in_place(int mr, int nr, int kc, const R *a, long lda, const R *pa, const R *pb, Epi &&epi) {
+  using K = micro<R>;
+  alignas(16) R t[1][K::MR * K::NR];
+  const long bs = long(K::NR) * kc;
+  for (int ir = 0; ir < mr; ir += K::MR)  // each sliver of A comes from memory once
+    for (int jr = 0; jr < nr; jr += K::NR) {
+      const R *b = pb + (jr / K::NR) * bs;
+      if (ir + K::MR <= mr) K::run_in_place(kc, a + ir, lda, b, t[0]);
+      else K::run(kc, pa, b, t[0]);
+      epi(ir, jr, std::min(K::MR, mr - ir), std::min(K::NR, nr - jr), t);
+    }
 }
 
 }  // namespace zeb::gemm

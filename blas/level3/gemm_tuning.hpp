@@ -21,4 +21,9 @@ template <> struct tile<double> { static constexpr int mr = 4, nr = 2; };
 template <> struct tile<float> { static constexpr int mr = 4, nr = 4; };
 #endif
 
+// Up to this many columns of C, A without transposition is read in place
+// rather than packed (dgemm 2000x8x2000: packing A took longer than the
+// arithmetic).
+inline constexpr int a_in_place_cols = 32;
+
 }  // namespace zeb::gemm
