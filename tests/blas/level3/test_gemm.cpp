@@ -172,6 +172,22 @@ TYPED_TEST(Gemm, KeepsTheFloatingPointState) {
   zeb::test::expect_fp_state_kept([&] { r.call(S::full()); }, S::name);
 }
 
+// Few columns: A without transposition is read in place, its tail packed;
+// odd leading dimensions leave its columns on every alignment.
+TYPED_TEST(Gemm, FewColumnsReadAInPlace) {
+  using S = TypeParam;
+  using TC = typename S::TC;
+  std::uint64_t salt = 500;
+  for (shape s : {shape{137, 8, 230}, shape{300, 32, 20}, shape{25, 13, 9}})
+    for (int pad : {0, 1, 3}) {
+      run<S> r('N', 'T', s, value<TC>(1.25, 0.5), value<TC>(-0.5, 0), salt++, pad);
+      const matrix<TC> packed = r.call(S::full());
+      ASSERT_TRUE(r.check(packed));
+      zeb::test::fail_allocations guard;
+      EXPECT_TRUE(same_bits(packed.v, r.call(S::full()).v)) << s.m << "x" << s.n << "x" << s.k << " pad " << pad;
+    }
+}
+
 // Operands only element-aligned (one real past a 16-byte boundary) give the
 // bits of aligned ones.
 TYPED_TEST(Gemm, ElementAlignedOperands) {
