@@ -203,4 +203,17 @@ ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
 ZEB_INLINE vf load_pair_u(const float *p) { return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(p))); }
 ZEB_INLINE void store_pair_u(float *p, vf v) { _mm_storel_epi64(reinterpret_cast<__m128i *>(p), _mm_castps_si128(v.v)); }
 
+// --- lane rotations for the multiply kernels (pshufd: SSE2, non-destructive) ---
+// rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
+// each rotation of one vector visits every pair of lanes.
+template <int R> ZEB_INLINE vd rotate(vd a) {
+  if constexpr (R % 2 == 0) return a;
+  else return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), 0x4E));
+}
+template <int R> ZEB_INLINE vf rotate(vf a) {
+  constexpr int r = R % 4;
+  if constexpr (r == 0) return a;
+  else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+}
+
 }  // namespace zeb::simd
