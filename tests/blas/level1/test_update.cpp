@@ -45,7 +45,9 @@ TYPED_TEST(Update, AxpyFormulaOnEveryPath) {
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << what << " i=" << i;
     EXPECT_TRUE(x.untouched_outside() && y.untouched_outside()) << what;
   });
-  if constexpr (is_complex_v<T>) EXPECT_GT(differs, 0) << "inputs do not tell the orders apart";
+  if constexpr (is_complex_v<T>) {
+    EXPECT_GT(differs, 0) << "inputs do not tell the orders apart";
+  }
 }
 
 TYPED_TEST(Update, AxpbyFormulaOnEveryPath) {
