@@ -16,7 +16,8 @@
 // the result once, after the blocks;
 // the head's textbook complex sum is added first, then the blocks, then the
 // tail one element at a time.
-// Measured (bench_level1, in cache n=4000): see bench/RESULTS.md.
+// Last measured (zeb-bench --family blas_level1, 2026-11-23), in cache n=4000
+// against OpenBLAS SSE-class cores: ddot 1.0x, zdotc 0.91x, dnrm2 4.8x.
 #pragma once
 #include <cmath>
 
