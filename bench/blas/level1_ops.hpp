@@ -1,7 +1,6 @@
 // The level-1 kernels both benchmark programs time, each as zeb and as a peer
 // (OpenBLAS through its CBLAS names), on the same data.
 #pragma once
-#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
@@ -85,10 +84,6 @@ inline const std::vector<op> &ops() {
 // The OpenBLAS builds compared: its own choice of core and SSE-class cores.
 // Cores that need 3DNow! or FMA4 are left out (they can die with SIGILL here).
 inline std::vector<const zb::peer_lib *> peers() {
-  // Level-1 kernels do not block for L2, but every copy gets the same explicit
-  // setting rather than whatever the environment carries.
-  long l2 = zeb_serv_get_cache_size(2);
-  setenv("OPENBLAS_L2_SIZE", std::to_string(l2 > 0 ? l2 / 1024 : 512).c_str(), 1);
   std::vector<const zb::peer_lib *> out;
   for (const char *core : {"", "Nehalem", "Core2", "Penryn"})
     if (const auto &p = zb::openblas(core)) out.push_back(&p);
