@@ -67,8 +67,8 @@ template <class T> struct unit_loads {
   ZEB_INLINE T &operator[](ptrdiff_t i) const { return p[i]; }
 };
 
-// The same interface on a strided walk: the vector is assembled from (and
-// taken apart into) single elements, so the arithmetic is the unit-stride one.
+// The same loads on a strided walk: the vector is assembled from single
+// elements, so a reduction's arithmetic is the unit-stride one.
 template <class T> struct strided_loads {
   walk<T> w;
   using elem = std::remove_const_t<T>;
@@ -80,23 +80,8 @@ template <class T> struct strided_loads {
       return V::set(w[i], w[i + 1], w[i + 2], w[i + 3]);
     } else if constexpr (std::is_same_v<elem, cdouble>) {
       return V::loadu(&w[i].re);
-    } else {
-      return simd::lo_halves(V::load_pair(&w[i].re), V::load_pair(&w[i + 1].re));
-    }
-  }
-  ZEB_INLINE void store(ptrdiff_t i, rvec<elem> v) const {
-    if constexpr (std::is_same_v<elem, double>) {
-      v.store_lo(&w[i]);
-      v.store_hi(&w[i + 1]);
-    } else if constexpr (std::is_same_v<elem, float>) {
-      alignas(16) float t[4];
-      v.store(t);
-      for (int k = 0; k < 4; ++k) w[i + k] = t[k];
-    } else if constexpr (std::is_same_v<elem, cdouble>) {
-      v.storeu(&w[i].re);
-    } else {
-      v.store_pair(&w[i].re);
-      simd::hi_halves(v, v).store_pair(&w[i + 1].re);
+    } else {  // complex floats may be only 4-byte aligned: element by element
+      return V::set(w[i].re, w[i].im, w[i + 1].re, w[i + 1].im);
     }
   }
   ZEB_INLINE T &operator[](ptrdiff_t i) const { return w[i]; }

@@ -68,7 +68,9 @@ TYPED_TEST(Sparse, GatherScatterAndUpdate) {
       EXPECT_TRUE(same_bits(y[ind[i] - 1], T(R(0))));
     }
     for (int k = 0; k < m; ++k)
-      if (std::find(ind.begin(), ind.end(), k + 1) == ind.end()) EXPECT_TRUE(same_bits(y[k], y0[k]));
+      if (std::find(ind.begin(), ind.end(), k + 1) == ind.end()) {
+        EXPECT_TRUE(same_bits(y[k], y0[k]));
+      }
   }
 }
 

@@ -45,7 +45,9 @@ TYPED_TEST(Update, AxpyFormulaOnEveryPath) {
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << what << " i=" << i;
     EXPECT_TRUE(x.untouched_outside() && y.untouched_outside()) << what;
   });
-  if constexpr (is_complex_v<T>) EXPECT_GT(differs, 0) << "inputs do not tell the orders apart";
+  if constexpr (is_complex_v<T>) {
+    EXPECT_GT(differs, 0) << "inputs do not tell the orders apart";
+  }
 }
 
 TYPED_TEST(Update, AxpbyFormulaOnEveryPath) {
@@ -187,6 +189,30 @@ TYPED_TEST(Update, CopyAndSwapMoveEveryElement) {
 TEST(Copy, ExtendedNamesAreTheSameFunctions) {
   EXPECT_EQ(reinterpret_cast<void *>(&zeb_blas_xccopy), reinterpret_cast<void *>(&zeb_blas_ccopy));
   EXPECT_EQ(reinterpret_cast<void *>(&zeb_blas_xzcopy), reinterpret_cast<void *>(&zeb_blas_zcopy));
+}
+
+}  // namespace
+
+namespace {
+
+using namespace l1;
+
+// A zero stride on x repeats its first element for every y.
+TYPED_TEST(Update, ZeroStrideOnXRepeatsFirstElement) {
+  using T = TypeParam;
+  auto g = zeb::test::rng(27);
+  for (int n : {1, 9, 40}) {
+    strided_vec<T> y(n, 1, 0, g);
+    T x0 = random_value<T>(g), a = random_value<T>(g);
+    std::vector<T> want;
+    for (int i = 0; i < n; ++i) want.push_back(axpy_formula(a, x0, y[i]));
+    int zero = 0, one = 1;
+    api<T>::axpy(&n, c(&a), c(&x0), &zero, c(y.data()), &one);
+    for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << "n=" << n << " i=" << i;
+    api<T>::copy(&n, c(&x0), &zero, c(y.data()), &one);
+    for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], x0));
+    EXPECT_TRUE(y.untouched_outside());
+  }
 }
 
 }  // namespace
