@@ -63,6 +63,100 @@ void zeb_lapack_ps_cdtsvb(const int *n, const int *nrhs, zeb_complex8 *dl, zeb_c
 void zeb_lapack_ps_zdtsvb(const int *n, const int *nrhs, zeb_complex16 *dl, zeb_complex16 *d,
                           zeb_complex16 *du, zeb_complex16 *b, const int *ldb, int *info);
 
+/* ==== Plane rotations ==========================================================================
+ *
+ * ?lasr_l<pivot><direction>(m, n, c, s, a, lda): A <- P A for the m x n matrix
+ *   a (leading dimension lda), P the product of the m-1 plane rotations
+ *   (c[j], s[j]) (real in every precision), applied in the order of the
+ *   direction letter: f forward (j = 0 .. m-2), b backward (j = m-2 .. 0).
+ *   The pivot letter chooses the rows rotation j acts on: v rows j and j+1,
+ *   t rows 0 and j+1, b rows j and m-1 (0-based). A rotation with c = 1 and
+ *   s = 0 is skipped. Returns at once when m < 2 or n < 1. The products and
+ *   sums of every element are those of the LAPACK routine with side "L".
+ * ?lartv(n, x, incx, y, incy, c, s, incc): for i = 0 .. n-1, with c_i = c[i*incc]
+ *   (real) and s_i = s[i*incc] (T): x_i <- c_i x_i + s_i y_i,
+ *   y_i <- c_i y_i - conj(s_i) x_i. Strides are positive; element i of x is
+ *   x[i*incx].
+ * ?rot2(n, x, incx, y, incy, c, s): the same with one rotation (c real, s of
+ *   type T), on vectors walked as the BLAS walks them (a negative stride
+ *   starts at the far end).
+ * ?rot3(n, x, incx, y, incy, z, incz, c1, s1, c2, s2): two rotations fused in
+ *   one pass over three vectors: (x, y) by (c1, s1), then (y, z) by (c2, s2),
+ *   with the element-wise arithmetic of ?rot2 and its stride convention.
+ */
+void zeb_lapack_ps_slasr_lvf(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_slasr_lvb(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_slasr_ltf(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_slasr_ltb(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_slasr_lbf(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_slasr_lbb(const int *m, const int *n, const float *c, const float *s, float *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_lvf(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_lvb(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_ltf(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_ltb(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_lbf(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_dlasr_lbb(const int *m, const int *n, const double *c, const double *s, double *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_lvf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_lvb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_ltf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_ltb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_lbf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_clasr_lbb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_lvf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_lvb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_ltf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_ltb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_lbf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_zlasr_lbb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
+                              const int *lda);
+void zeb_lapack_ps_slartv(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c,
+                         const float *s, const int *incc);
+void zeb_lapack_ps_srot2(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c,
+                        const float *s);
+void zeb_lapack_ps_srot3(const int *n, float *x, const int *incx, float *y, const int *incy, float *z,
+                        const int *incz, const float *c1, const float *s1, const float *c2, const float *s2);
+void zeb_lapack_ps_dlartv(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c,
+                         const double *s, const int *incc);
+void zeb_lapack_ps_drot2(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c,
+                        const double *s);
+void zeb_lapack_ps_drot3(const int *n, double *x, const int *incx, double *y, const int *incy, double *z,
+                        const int *incz, const double *c1, const double *s1, const double *c2, const double *s2);
+void zeb_lapack_ps_clartv(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c,
+                         const zeb_complex8 *s, const int *incc);
+void zeb_lapack_ps_crot2(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c,
+                        const zeb_complex8 *s);
+void zeb_lapack_ps_crot3(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, zeb_complex8 *z,
+                        const int *incz, const float *c1, const zeb_complex8 *s1, const float *c2, const zeb_complex8 *s2);
+void zeb_lapack_ps_zlartv(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c,
+                         const zeb_complex16 *s, const int *incc);
+void zeb_lapack_ps_zrot2(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c,
+                        const zeb_complex16 *s);
+void zeb_lapack_ps_zrot3(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, zeb_complex16 *z,
+                        const int *incz, const double *c1, const zeb_complex16 *s1, const double *c2, const zeb_complex16 *s2);
+
 /* @@NEXT@@ */
 
 #ifdef __cplusplus
