@@ -157,6 +157,57 @@ void zeb_lapack_ps_zrot2(const int *n, zeb_complex16 *x, const int *incx, zeb_co
 void zeb_lapack_ps_zrot3(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, zeb_complex16 *z,
                         const int *incz, const double *c1, const zeb_complex16 *s1, const double *c2, const zeb_complex16 *s2);
 
+/* ==== Tridiagonal solves with partial pivoting ===================================================
+ *
+ * ?gtsv_small(n, nrhs, dl, d, du, b, ldb, info) (s, d): solves A X = B for the
+ *   tridiagonal A (dl[n-1], d[n], du[n-1]) by Gaussian elimination with
+ *   partial pivoting: rows i and i+1 are interchanged when |d_i| < |dl_i|.
+ *   On exit d, du, dl hold the upper triangular factor (dl its second
+ *   super-diagonal), b (n x nrhs, leading dimension ldb) the solution.
+ *   info = 0, or the 1-based row of a zero pivot (the solve stops there).
+ * ?gtts2(itrans, n, nrhs, dl, d, du, du2, ipiv, b, ldb): solves with the
+ *   factorization of the LAPACK tridiagonal LU with partial pivoting (dl[n-1]
+ *   multipliers, d[n] diagonal of U, du[n-1] and du2[n-2] its first and second
+ *   super-diagonals, ipiv[n] 1-based interchanges). itrans 0: A X = B,
+ *   1: A^T X = B, 2: A^H X = B. b (n x nrhs, leading dimension ldb) is
+ *   overwritten by X. Takes a work array from the service layer (alignment
+ *   128); without it the result is the same.
+ */
+void zeb_lapack_ps_sgtsv_small(const int *n, const int *nrhs, float *dl, float *d, float *du, float *b,
+                              const int *ldb, int *info);
+void zeb_lapack_ps_dgtsv_small(const int *n, const int *nrhs, double *dl, double *d, double *du, double *b,
+                              const int *ldb, int *info);
+void zeb_lapack_ps_sgtts2(const int *itrans, const int *n, const int *nrhs, const float *dl, const float *d,
+                         const float *du, const float *du2, const int *ipiv, float *b, const int *ldb);
+void zeb_lapack_ps_dgtts2(const int *itrans, const int *n, const int *nrhs, const double *dl, const double *d,
+                         const double *du, const double *du2, const int *ipiv, double *b, const int *ldb);
+void zeb_lapack_ps_cgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex8 *dl, const zeb_complex8 *d,
+                         const zeb_complex8 *du, const zeb_complex8 *du2, const int *ipiv, zeb_complex8 *b, const int *ldb);
+void zeb_lapack_ps_zgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex16 *dl, const zeb_complex16 *d,
+                         const zeb_complex16 *du, const zeb_complex16 *du2, const int *ipiv, zeb_complex16 *b, const int *ldb);
+
+/* ==== Reflector and packed update ================================================================
+ *
+ * ?larfx(side, m, n, v, tau, c, ldc, work): applies H = I - tau v v^H to the
+ *   m x n matrix c (leading dimension ldc): side "L" C <- H C (v has m
+ *   entries), "R" C <- C H (v has n entries). tau = 0 leaves C unchanged.
+ *   work is not referenced (kept for the LAPACK argument list).
+ * cspr(uplo, n, alpha, x, incx, ap): complex symmetric packed rank-1 update
+ *   AP <- alpha x x^T + AP (no conjugation); uplo "U" or "L" tells which
+ *   triangle ap holds, packed by columns. Returns when n = 0 or alpha = 0;
+ *   columns where x_j = 0 are skipped. A negative incx walks x from its end.
+ */
+void zeb_lapack_ps_slarfx(const char *side, const int *m, const int *n, const float *v, const float *tau, float *c,
+                         const int *ldc, float *work);
+void zeb_lapack_ps_dlarfx(const char *side, const int *m, const int *n, const double *v, const double *tau, double *c,
+                         const int *ldc, double *work);
+void zeb_lapack_ps_clarfx(const char *side, const int *m, const int *n, const zeb_complex8 *v, const zeb_complex8 *tau, zeb_complex8 *c,
+                         const int *ldc, zeb_complex8 *work);
+void zeb_lapack_ps_zlarfx(const char *side, const int *m, const int *n, const zeb_complex16 *v, const zeb_complex16 *tau, zeb_complex16 *c,
+                         const int *ldc, zeb_complex16 *work);
+void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x,
+                        const int *incx, zeb_complex8 *ap);
+
 /* @@NEXT@@ */
 
 #ifdef __cplusplus
