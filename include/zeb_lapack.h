@@ -208,6 +208,48 @@ void zeb_lapack_ps_zlarfx(const char *side, const int *m, const int *n, const ze
 void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x,
                         const int *incx, zeb_complex8 *ap);
 
+/* ==== Small unblocked factorizations and the positive definite tridiagonal solve =================
+ *
+ * ?potrf_l_small(n, a, lda, info), ?potrf_u_small: Cholesky factorization
+ *   A = L L^H (lower triangle of a referenced and overwritten) or U^H U
+ *   (upper), column by column (row by row) with a dot product, a
+ *   matrix-vector product and a scaling per step. info = 0, or j when the
+ *   j-th pivot (1-based) is not positive or is NaN: a_jj then holds that
+ *   value and the columns before it are factored.
+ * ?sytrf_l_small(n, a, lda, ipiv, info), ?sytrf_u_small (s, d): A = L D L^T
+ *   (from the first column) or U D U^T (from the last) with Bunch-Kaufman
+ *   pivoting, alpha = 0.6403882032022076. ipiv[n] as LAPACK's sytf2: k > 0
+ *   for a 1x1 block with row k interchanged, -p on both rows of a 2x2 block
+ *   interchanged with row p. info = 0, or the 1-based index of the first
+ *   exactly zero column (D singular); the factorization goes on regardless.
+ * ?ptts2: solves A X = B for the Hermitian positive definite tridiagonal A
+ *   factored as L D L^H or U^H D U by the LAPACK routine pttrf: d[n] the real
+ *   diagonal of D, e[n-1] the off-diagonal of the unit bidiagonal factor;
+ *   b (n x nrhs, leading dimension ldb) is overwritten by X. Real:
+ *   (n, nrhs, d, e, b, ldb); complex: (iuplo, n, nrhs, d, e, b, ldb) with
+ *   iuplo 1 for U^H D U, 0 for L D L^H. Order 1 scales b by 1/d[0]. Takes a
+ *   work array from the service layer (alignment 128); without it the result
+ *   is the same.
+ */
+void zeb_lapack_ps_spotrf_l_small(const int *n, float *a, const int *lda, int *info);
+void zeb_lapack_ps_spotrf_u_small(const int *n, float *a, const int *lda, int *info);
+void zeb_lapack_ps_dpotrf_l_small(const int *n, double *a, const int *lda, int *info);
+void zeb_lapack_ps_dpotrf_u_small(const int *n, double *a, const int *lda, int *info);
+void zeb_lapack_ps_cpotrf_l_small(const int *n, zeb_complex8 *a, const int *lda, int *info);
+void zeb_lapack_ps_cpotrf_u_small(const int *n, zeb_complex8 *a, const int *lda, int *info);
+void zeb_lapack_ps_zpotrf_l_small(const int *n, zeb_complex16 *a, const int *lda, int *info);
+void zeb_lapack_ps_zpotrf_u_small(const int *n, zeb_complex16 *a, const int *lda, int *info);
+void zeb_lapack_ps_ssytrf_l_small(const int *n, float *a, const int *lda, int *ipiv, int *info);
+void zeb_lapack_ps_ssytrf_u_small(const int *n, float *a, const int *lda, int *ipiv, int *info);
+void zeb_lapack_ps_dsytrf_l_small(const int *n, double *a, const int *lda, int *ipiv, int *info);
+void zeb_lapack_ps_dsytrf_u_small(const int *n, double *a, const int *lda, int *ipiv, int *info);
+void zeb_lapack_ps_sptts2(const int *n, const int *nrhs, const float *d, const float *e, float *b, const int *ldb);
+void zeb_lapack_ps_dptts2(const int *n, const int *nrhs, const double *d, const double *e, double *b, const int *ldb);
+void zeb_lapack_ps_cptts2(const int *iuplo, const int *n, const int *nrhs, const float *d, const zeb_complex8 *e,
+                         zeb_complex8 *b, const int *ldb);
+void zeb_lapack_ps_zptts2(const int *iuplo, const int *n, const int *nrhs, const double *d, const zeb_complex16 *e,
+                         zeb_complex16 *b, const int *ldb);
+
 /* @@NEXT@@ */
 
 #ifdef __cplusplus

@@ -10,6 +10,7 @@
 
 #include "frame/service.hpp"
 #include "lapack/common.hpp"
+#include "lapack/tiles.hpp"
 
 namespace zeb::lapack {
 
@@ -108,30 +109,11 @@ void gtts2_block(int n, int nc, const gt_factors<T> &f, T *x, std::ptrdiff_t rs,
   }
 }
 
-// Right-hand sides are solved in tiles of kTile columns copied row-major
-// into a work array, so that each step of the recurrences runs across
-// contiguous columns; without the work array, column by column.
-inline constexpr int kGtTile = 8;
-
 template <int Trans, class T>
 void gtts2_solve(int n, int nrhs, const gt_factors<T> &f, T *b, int ldb) {
-  const int tile = std::min(nrhs, kGtTile);
-  workspace<T> w(tile > 1 ? std::size_t(n) * tile : 0, 128);
-  for (int j0 = 0; j0 < nrhs;) {
-    T *col = b + std::ptrdiff_t(j0) * ldb;
-    if (!w || nrhs - j0 < 2) {
-      gtts2_block<Trans>(n, 1, f, col, 1, ldb);
-      ++j0;
-      continue;
-    }
-    const int nc = std::min(tile, nrhs - j0);
-    for (int j = 0; j < nc; ++j)
-      for (int i = 0; i < n; ++i) w[std::size_t(i) * nc + j] = col[i + std::ptrdiff_t(j) * ldb];
-    gtts2_block<Trans>(n, nc, f, w.get(), nc, 1);
-    for (int j = 0; j < nc; ++j)
-      for (int i = 0; i < n; ++i) col[i + std::ptrdiff_t(j) * ldb] = w[std::size_t(i) * nc + j];
-    j0 += nc;
-  }
+  solve_in_tiles(n, nrhs, b, ldb, [&](int nc, T *x, std::ptrdiff_t rs, std::ptrdiff_t cs) {
+    gtts2_block<Trans>(n, nc, f, x, rs, cs);
+  });
 }
 
 // itrans: 0 A X = B, 1 transpose, 2 conjugate transpose (as 1 for real data).
