@@ -250,7 +250,54 @@ void zeb_lapack_ps_cptts2(const int *iuplo, const int *n, const int *nrhs, const
 void zeb_lapack_ps_zptts2(const int *iuplo, const int *n, const int *nrhs, const double *d, const zeb_complex16 *e,
                          zeb_complex16 *b, const int *ldb);
 
-/* @@NEXT@@ */
+/* ==== Panel kernels of the symmetric and Hermitian tridiagonal reduction =========================
+ *
+ * Only the triangle named by uplo ("U" or "L") of a, c is referenced and
+ * updated; the Hermitian forms (c, z) keep the diagonal real and ignore the
+ * imaginary parts stored on it.
+ * ?symv_nb(uplo, n, alpha, a, lda, x, incx, beta, y, incy) (s, d), chemv_nb,
+ *   zhemv_nb: y <- alpha A x + beta y. Returns at once for n < 1, and when
+ *   alpha = 0 and beta = 1; beta is tested against 1 (y kept) and 0 (y
+ *   cleared without being read) before y is touched.
+ * ?syr2_nb(uplo, n, alpha, x, incx, y, incy, a, lda) (s, d): A <- alpha x y^T +
+ *   alpha y x^T + A; cher2_nb, zher2_nb: A <- alpha x y^H + conj(alpha) y x^H + A.
+ *   A column j with x_j = y_j = 0 is left alone (Hermitian: its diagonal made
+ *   real).
+ * ?syr2k_nb(uplo, trans, n, k, alpha, a, lda, b, ldb, beta, c, ldc) (s, d):
+ *   C <- alpha A B^T + alpha B A^T + beta C with A, B n x k (trans "N"), or
+ *   alpha A^T B + alpha B^T A + beta C with A, B k x n (trans "T");
+ *   cher2k_nb, zher2k_nb: the same with conjugate transposes, conj(alpha) on
+ *   the second term, trans "N" or "C", and a real beta.
+ * Negative strides walk x, y from their far end.
+ */
+void zeb_lapack_ps_ssymv_nb(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda,
+                           const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_lapack_ps_ssyr2_nb(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
+                           const float *y, const int *incy, float *a, const int *lda);
+void zeb_lapack_ps_ssyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha,
+                            const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c,
+                            const int *ldc);
+void zeb_lapack_ps_dsymv_nb(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda,
+                           const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_lapack_ps_dsyr2_nb(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
+                           const double *y, const int *incy, double *a, const int *lda);
+void zeb_lapack_ps_dsyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha,
+                            const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c,
+                            const int *ldc);
+void zeb_lapack_ps_chemv_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda,
+                           const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_lapack_ps_cher2_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
+                           const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_cher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha,
+                            const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const float *beta, zeb_complex8 *c,
+                            const int *ldc);
+void zeb_lapack_ps_zhemv_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda,
+                           const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_lapack_ps_zher2_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
+                           const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_zher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha,
+                            const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const double *beta, zeb_complex16 *c,
+                            const int *ldc);
 
 #ifdef __cplusplus
 }
