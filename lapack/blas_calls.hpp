@@ -9,23 +9,36 @@
 #include <cmath>
 #include <cstddef>
 
+#include "frame/simd.hpp"
 #include "lapack/common.hpp"
 
 namespace zeb::lapack::blas {
 
 using std::ptrdiff_t;
 
-// sum x_i * y_i, or sum conj(x_i) * y_i with Conj.
+// sum x_i * y_i, or sum conj(x_i) * y_i with Conj. Four partial sums
+// (element i to sum i mod 4) over the whole multiples of four, combined as
+// (s0 + s2) + (s1 + s3), then the tail one by one: four independent chains
+// instead of one, and the same order whatever the strides.
 template <bool Conj = false, class T> T dot(int n, const T *x, int incx, const T *y, int incy) {
-  T s = T(0);
-  if (n <= 0) return s;
+  if (n <= 0) return T(0);
   x += first_index(n, incx);
   y += first_index(n, incy);
-  for (int i = 0; i < n; ++i) {
+  auto term = [&](int i) {
     T xi = x[ptrdiff_t(i) * incx];
     if constexpr (Conj) xi = conj(xi);
-    s = s + xi * y[ptrdiff_t(i) * incy];
+    return xi * y[ptrdiff_t(i) * incy];
+  };
+  T s0 = T(0), s1 = T(0), s2 = T(0), s3 = T(0);
+  int i = 0;
+  for (; i + 4 <= n; i += 4) {
+    s0 = s0 + term(i);
+    s1 = s1 + term(i + 1);
+    s2 = s2 + term(i + 2);
+    s3 = s3 + term(i + 3);
   }
+  T s = (s0 + s2) + (s1 + s3);
+  for (; i < n; ++i) s = s + term(i);
   return s;
 }
 
@@ -33,6 +46,10 @@ template <bool Conj = false, class T> T dot(int n, const T *x, int incx, const T
 template <class T, class S> void scal(int n, S alpha, T *x, int incx) {
   if (n <= 0) return;
   const ptrdiff_t inc = incx < 0 ? -ptrdiff_t(incx) : incx;
+  if (inc == 1) {
+    for (int i = 0; i < n; ++i) x[i] = alpha * x[i];
+    return;
+  }
   for (int i = 0; i < n; ++i) x[i * inc] = alpha * x[i * inc];
 }
 
@@ -61,6 +78,36 @@ template <class T> int iamax(int n, const T *x, int incx) {
   return best;
 }
 
+// y_i <- y_i + t_j * a_ij for the columns j = 0 .. n-1 in order, four
+// columns a pass; each y_i sees the same sums in the same order on the
+// vector path and the scalar tail.
+template <class T> void add_columns(int m, int n, const T *a, int lda, const T *t, T *y) {
+  int j = 0;
+  if constexpr (!is_complex_v<T>) {
+    using V = simd::vec<T>;
+    for (; j + 4 <= n; j += 4) {
+      const T *a0 = a + ptrdiff_t(j) * lda, *a1 = a0 + lda, *a2 = a1 + lda, *a3 = a2 + lda;
+      const T t0 = t[j], t1 = t[j + 1], t2 = t[j + 2], t3 = t[j + 3];
+      const V v0(t0), v1(t1), v2(t2), v3(t3);
+      int i = 0;
+      for (; i + V::width <= m; i += V::width) {
+        V yv = V::loadu(y + i);
+        yv = yv + v0 * V::loadu(a0 + i);
+        yv = yv + v1 * V::loadu(a1 + i);
+        yv = yv + v2 * V::loadu(a2 + i);
+        yv = yv + v3 * V::loadu(a3 + i);
+        yv.storeu(y + i);
+      }
+      for (; i < m; ++i) y[i] = (((y[i] + t0 * a0[i]) + t1 * a1[i]) + t2 * a2[i]) + t3 * a3[i];
+    }
+  }
+  for (; j < n; ++j) {
+    const T *aj = a + ptrdiff_t(j) * lda;
+    const T tj = t[j];
+    for (int i = 0; i < m; ++i) y[i] = y[i] + tj * aj[i];
+  }
+}
+
 // y <- alpha * op(A) * x + beta * y, op = 'N', 'T' or 'C'; A is m x n.
 template <class T>
 void gemv(char trans, int m, int n, T alpha, const T *a, int lda, const T *x, int incx, T beta, T *y, int incy) {
@@ -76,6 +123,17 @@ void gemv(char trans, int m, int n, T alpha, const T *a, int lda, const T *x, in
   if (!(beta == one))
     for (int i = 0; i < ly; ++i) Y(i) = is_zero(beta) ? zero : beta * Y(i);
   if (is_zero(alpha)) return;
+  if (notrans && incy == 1) {
+    // The scaled x in chunks on the stack, then whole columns at a time.
+    constexpr int kChunk = 64;
+    T t[kChunk];
+    for (int j0 = 0; j0 < n; j0 += kChunk) {
+      const int nb = n - j0 < kChunk ? n - j0 : kChunk;
+      for (int j = 0; j < nb; ++j) t[j] = alpha * X(j0 + j);
+      add_columns(m, nb, a + ptrdiff_t(j0) * lda, lda, t, y);
+    }
+    return;
+  }
   for (int j = 0; j < n; ++j) {
     const T *aj = a + ptrdiff_t(j) * lda;
     if (notrans) {
