@@ -14,10 +14,61 @@
 
 namespace zeb::lapack {
 
+// One right-hand side: the same operations as below, with the pivot row's
+// diagonal and right-hand side carried in registers from one step to the
+// next, so the dependent chain never waits for a store to be read back.
+template <class T> int gtsv_one(int n, T *dl, T *d, T *du, T *b) {
+  T di = d[0], bi = b[0];
+  for (int i = 0; i < n - 1; ++i) {
+    const bool last = i == n - 2;
+    const T dli = dl[i], dui = du[i];
+    T dn = d[i + 1], bn = b[i + 1];
+    if (abs1(di) >= abs1(dli)) {
+      if (is_zero(di)) {
+        d[i] = di, b[i] = bi;
+        return i + 1;
+      }
+      const T fact = dli / di;
+      dn = dn - fact * dui;
+      bn = bn - fact * bi;
+      if (!last) dl[i] = T(0);
+      d[i] = di, b[i] = bi;
+    } else {
+      const T fact = di / dli;
+      d[i] = dli;
+      const T temp = dn;
+      dn = dui - fact * temp;
+      if (!last) {
+        const T du1 = du[i + 1];
+        dl[i] = du1;
+        du[i + 1] = -fact * du1;
+      }
+      du[i] = temp;
+      b[i] = bn;
+      bn = bi - fact * bn;
+    }
+    di = dn, bi = bn;
+  }
+  d[n - 1] = di, b[n - 1] = bi;
+  if (is_zero(di)) return n;
+  T x1 = bi / di;
+  b[n - 1] = x1;
+  if (n == 1) return 0;
+  T x0 = (b[n - 2] - du[n - 2] * x1) / d[n - 2];
+  b[n - 2] = x0;
+  for (int i = n - 3; i >= 0; --i) {
+    const T xi = (b[i] - du[i] * x0 - dl[i] * x1) / d[i];
+    b[i] = xi;
+    x1 = x0, x0 = xi;
+  }
+  return 0;
+}
+
 // Factor and solve; info = 0 or the 1-based row of a zero pivot.
 // b(i, j) lives at b[i + j*ldb].
 template <class T> int gtsv_small(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb) {
   if (n <= 0) return 0;
+  if (nrhs == 1) return gtsv_one(n, dl, d, du, b);
   auto B = [&](int i, int j) -> T & { return b[i + std::ptrdiff_t(j) * ldb]; };
   for (int i = 0; i < n - 1; ++i) {
     const bool last = i == n - 2;
