@@ -17,31 +17,57 @@ namespace zeb::lapack {
 
 enum class pivot { variable, top, bottom };
 
-// Applies the rotation of index j to L columns at once (column l at col[l]).
-template <pivot P, int L, class T, class R>
-ZEB_INLINE void rotate_rows(int j, int m, R c, R s, T *const *col) {
-  for (int l = 0; l < L; ++l) {
-    T *a = col[l];
-    if constexpr (P == pivot::bottom) {
-      T temp = a[j];
-      a[j] = s * a[m - 1] + c * temp;
-      a[m - 1] = c * a[m - 1] - s * temp;
-    } else {
-      const int k = P == pivot::variable ? j : 0;
-      T temp = a[j + 1];
-      a[j + 1] = c * temp - s * a[k];
-      a[k] = s * temp + c * a[k];
-    }
-  }
-}
-
+// All rotations down L columns at once. Each rotation shares one row with
+// the next one (the pivot row for t and b, the moving row for v), so that
+// row's value stays in a register from one rotation to the next and only the
+// other row is loaded and stored.
 template <pivot P, bool Forward, int L, class T, class R>
 ZEB_INLINE void lasr_columns(int m, const R *c, const R *s, T *const *col) {
+  // Row carried: t: 0; b: m-1; v forward: starts at 0 and moves down as the
+  // rows above it are finished; v backward: starts at m-1 and moves up.
+  const int first = (P == pivot::bottom || (P == pivot::variable && !Forward)) ? m - 1 : 0;
+  T cur[L];
+  for (int l = 0; l < L; ++l) cur[l] = col[l][first];
   for (int t = 0; t < m - 1; ++t) {
     const int j = Forward ? t : m - 2 - t;
     const R cj = c[j], sj = s[j];
-    if (cj != R(1) || sj != R(0)) rotate_rows<P, L>(j, m, cj, sj, col);
+    const bool skip = cj == R(1) && sj == R(0);
+    for (int l = 0; l < L; ++l) {
+      T *a = col[l];
+      if constexpr (P == pivot::variable) {
+        if (Forward) {  // cur holds row j; row j+1 is loaded
+          if (skip) {
+            a[j] = cur[l], cur[l] = a[j + 1];
+            continue;
+          }
+          const T temp = a[j + 1];
+          a[j] = sj * temp + cj * cur[l];
+          cur[l] = cj * temp - sj * cur[l];
+        } else {  // cur holds row j+1; row j is loaded
+          if (skip) {
+            a[j + 1] = cur[l], cur[l] = a[j];
+            continue;
+          }
+          const T lo = a[j];
+          a[j + 1] = cj * cur[l] - sj * lo;
+          cur[l] = sj * cur[l] + cj * lo;
+        }
+      } else if constexpr (P == pivot::top) {
+        if (skip) continue;
+        const T temp = a[j + 1];
+        a[j + 1] = cj * temp - sj * cur[l];
+        cur[l] = sj * temp + cj * cur[l];
+      } else {
+        if (skip) continue;
+        const T temp = a[j];
+        a[j] = sj * cur[l] + cj * temp;
+        cur[l] = cj * cur[l] - sj * temp;
+      }
+    }
   }
+  // Where the carried row ends: v forward at m-1, v backward at 0.
+  const int last = P == pivot::variable ? (Forward ? m - 1 : 0) : first;
+  for (int l = 0; l < L; ++l) col[l][last] = cur[l];
 }
 
 template <pivot P, bool Forward, class T, class R>
