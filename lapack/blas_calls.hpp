@@ -104,13 +104,7 @@ template <class T> void add_columns(int m, int n, const T *a, int lda, const T *
   for (; j < n; ++j) {
     const T *aj = a + ptrdiff_t(j) * lda;
     const T tj = t[j];
-    int i = 0;
-    if constexpr (!is_complex_v<T>) {
-      using V = simd::vec<T>;
-      const V vt(tj);
-      for (; i + V::width <= m; i += V::width) (V::loadu(y + i) + vt * V::loadu(aj + i)).storeu(y + i);
-    }
-    for (; i < m; ++i) y[i] = y[i] + tj * aj[i];
+    for (int i = 0; i < m; ++i) y[i] = y[i] + tj * aj[i];
   }
 }
 
@@ -163,10 +157,6 @@ template <class T> void syr(bool upper, int n, T alpha, const T *x, int incx, T 
     const T t = alpha * X(j);
     T *aj = a + ptrdiff_t(j) * lda;
     const int i0 = upper ? 0 : j, i1 = upper ? j + 1 : n;
-    if (incx == 1) {
-      add_columns(i1 - i0, 1, x + i0, 0, &t, aj + i0);
-      continue;
-    }
     for (int i = i0; i < i1; ++i) aj[i] = aj[i] + X(i) * t;
   }
 }

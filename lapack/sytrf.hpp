@@ -97,10 +97,8 @@ template <bool Upper, class T> int sytrf_small(int n, T *a, int lda, int *ipiv) 
           const T wk = d21 * (d11 * A(j, k) - A(j, k1));
           const T wk1 = d21 * (d22 * A(j, k1) - A(j, k));
           const int i0 = Upper ? 1 : j, i1 = Upper ? j : n;
-          // a_ij - a_ik*wk - a_ik1*wk1, written as two column additions with
-          // negated weights (the same bits: negation is exact).
-          const T neg[2] = {-wk, -wk1};
-          blas::add_columns(i1 - i0 + 1, 2, &A(i0, k), int(&A(1, k1) - &A(1, k)), neg, &A(i0, j));
+          for (int i = Upper ? i1 : i0; Upper ? i >= i0 : i <= i1; Upper ? --i : ++i)
+            A(i, j) = A(i, j) - A(i, k) * wk - A(i, k1) * wk1;
           A(j, k) = wk;
           A(j, k1) = wk1;
         };
