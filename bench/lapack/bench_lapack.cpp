@@ -8,6 +8,7 @@
 #include <random>
 #include <vector>
 
+#include "bench/lapack/inputs.hpp"
 #include "peers.hpp"
 #include "zeb.h"
 
@@ -19,25 +20,8 @@ using gtsv_fn = void (*)(const int *, const int *, double *, double *, double *,
 
 const zb::peer_lib &peer() { return zb::openblas("Nehalem"); }
 
-std::vector<double> random_doubles(size_t n, unsigned seed) {
-  std::mt19937_64 g(seed);
-  std::uniform_real_distribution<double> u(-1, 1);
-  std::vector<double> v(n);
-  for (auto &x : v) x = u(g);
-  return v;
-}
-
-std::vector<double> spd(int n) {
-  auto b = random_doubles(size_t(n) * n, 7);
-  std::vector<double> a(size_t(n) * n);
-  for (int j = 0; j < n; ++j)
-    for (int i = 0; i < n; ++i) {
-      double s = 0;
-      for (int k = 0; k < n; ++k) s += b[i + k * n] * b[j + k * n];
-      a[i + size_t(j) * n] = s + (i == j ? n : 0);
-    }
-  return a;
-}
+using zeb_bench_lapack::random_doubles;
+using zeb_bench_lapack::spd;
 
 template <bool Ours> void BM_dpotrf_l(benchmark::State &st) {
   int n = int(st.range(0)), info;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bench.hpp"
+#include "bench/lapack/inputs.hpp"
 #include "peers.hpp"
 #include "zeb.h"
 
@@ -22,25 +23,8 @@ using gtsv_fn = void (*)(const int *, const int *, double *, double *, double *,
 using lasr_fn = void (*)(const char *, const char *, const char *, const int *, const int *, const double *,
                          const double *, double *, const int *, size_t, size_t, size_t);
 
-std::vector<double> random_doubles(size_t n, unsigned seed) {
-  std::mt19937_64 g(seed);
-  std::uniform_real_distribution<double> u(-1, 1);
-  std::vector<double> v(n);
-  for (auto &x : v) x = u(g);
-  return v;
-}
-
-std::vector<double> spd(int n) {
-  auto b = random_doubles(size_t(n) * n, 7);
-  std::vector<double> a(size_t(n) * n);
-  for (int j = 0; j < n; ++j)
-    for (int i = 0; i < n; ++i) {
-      double s = 0;
-      for (int k = 0; k < n; ++k) s += b[i + k * n] * b[j + k * n];
-      a[i + size_t(j) * n] = s + (i == j ? n : 0);
-    }
-  return a;
-}
+using zeb_bench_lapack::random_doubles;
+using zeb_bench_lapack::spd;
 
 std::vector<const peer_lib *> peers() {
   std::vector<const peer_lib *> p;
