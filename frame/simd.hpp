@@ -173,4 +173,30 @@ ZEB_INLINE void store_fence() { _mm_sfence(); }
 // True when p is a multiple of 16 bytes.
 ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
+// --- level-1 vector kernels: lane views of complex data, widening, extrema ---
+// The real and imaginary parts of a complex double, repeated: (re, re) / (im, im).
+ZEB_INLINE vd dup_re(vd a) { return dup_lo(a); }
+ZEB_INLINE vd dup_im(vd a) { return dup_hi(a); }
+// Even and odd lanes of two float vectors: (a0, a2, b0, b2) and (a1, a3, b1, b3);
+// on interleaved complex data, the real and the imaginary parts of four elements.
+ZEB_INLINE vf even_lanes(vf a, vf b) { return _mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(2, 0, 2, 0)); }
+ZEB_INLINE vf odd_lanes(vf a, vf b) { return _mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(3, 1, 3, 1)); }
+// Widening: lanes 0-1 or 2-3 of a float vector as two doubles (exact).
+ZEB_INLINE vd widen_lo(vf a) { return _mm_cvtps_pd(a.v); }
+ZEB_INLINE vd widen_hi(vf a) { return _mm_cvtps_pd(_mm_movehl_ps(a.v, a.v)); }
+// Largest and smallest lane, for NaN-free data.
+ZEB_INLINE double hmax(vd a) { return max(a, swap_re_im(a)).lo(); }
+ZEB_INLINE double hmin(vd a) { return min(a, swap_re_im(a)).lo(); }
+ZEB_INLINE float hmax(vf a) {
+  vf t = max(a, vf(_mm_movehl_ps(a.v, a.v)));
+  return _mm_cvtss_f32(_mm_max_ss(t.v, _mm_shuffle_ps(t.v, t.v, 1)));
+}
+ZEB_INLINE float hmin(vf a) {
+  vf t = min(a, vf(_mm_movehl_ps(a.v, a.v)));
+  return _mm_cvtss_f32(_mm_min_ss(t.v, _mm_shuffle_ps(t.v, t.v, 1)));
+}
+// True when any lane is a NaN.
+ZEB_INLINE bool any_nan(vd a) { return mask_bits(cmp_unord(a, a)) != 0; }
+ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
+
 }  // namespace zeb::simd

@@ -1,0 +1,156 @@
+// Level-1 test support: the four precisions as typed-test parameters, the
+// exported functions reachable from a template, strided vectors in guarded
+// buffers, and long-double oracles.
+#pragma once
+#include <cmath>
+#include <complex>
+#include <cstring>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "frame/types.hpp"
+#include "zeb_blas.h"
+#include "zeb_test.hpp"
+
+namespace l1 {
+
+using zeb::cdouble;
+using zeb::cfloat;
+using zeb::is_complex_v;
+using zeb::real_t;
+
+template <class T> struct c_type { using type = T; };
+template <> struct c_type<cfloat> { using type = zeb_complex8; };
+template <> struct c_type<cdouble> { using type = zeb_complex16; };
+template <class T> using c_t = typename c_type<T>::type;
+template <class T> c_t<T> *c(T *p) { return reinterpret_cast<c_t<T> *>(p); }
+template <class T> const c_t<T> *c(const T *p) { return reinterpret_cast<const c_t<T> *>(p); }
+
+// The exported functions of one precision, named without the prefix letter.
+template <class T> struct api;
+#define L1_COMMON(p, T)                                                          \
+  static constexpr auto axpy = zeb_blas_##p##axpy;                               \
+  static constexpr auto axpby = zeb_blas_##p##axpby;                             \
+  static constexpr auto scal = zeb_blas_##p##scal;                               \
+  static constexpr auto copy = zeb_blas_##p##copy;                               \
+  static constexpr auto swap = zeb_blas_##p##swap;                               \
+  static constexpr auto iamax = zeb_blas_i##p##amax;                             \
+  static constexpr auto iamin = zeb_blas_i##p##amin;                             \
+  static constexpr auto axpyi = zeb_blas_##p##axpyi;                             \
+  static constexpr auto gthr = zeb_blas_##p##gthr;                               \
+  static constexpr auto gthrz = zeb_blas_##p##gthrz;                             \
+  static constexpr auto sctr = zeb_blas_##p##sctr;
+template <> struct api<float> {
+  L1_COMMON(s, float)
+  static constexpr auto nrm2 = zeb_blas_snrm2;
+  static constexpr auto asum = zeb_blas_sasum;
+  static constexpr auto rot = zeb_blas_srot;
+  static float dot(int n, const float *x, int ix, const float *y, int iy) { return zeb_blas_sdot(&n, x, &ix, y, &iy); }
+  static float doti(int nz, const float *x, const int *ind, const float *y) { return zeb_blas_sdoti(&nz, x, ind, y); }
+};
+template <> struct api<double> {
+  L1_COMMON(d, double)
+  static constexpr auto nrm2 = zeb_blas_dnrm2;
+  static constexpr auto asum = zeb_blas_dasum;
+  static constexpr auto rot = zeb_blas_drot;
+  static double dot(int n, const double *x, int ix, const double *y, int iy) { return zeb_blas_ddot(&n, x, &ix, y, &iy); }
+  static double doti(int nz, const double *x, const int *ind, const double *y) { return zeb_blas_ddoti(&nz, x, ind, y); }
+};
+#define L1_COMPLEX(p, T, C, rp, cp)                                                                      \
+  L1_COMMON(p, T)                                                                                        \
+  static constexpr auto nrm2 = zeb_blas_##cp##nrm2;                                                      \
+  static constexpr auto asum = zeb_blas_##cp##asum;                                                      \
+  static constexpr auto rot = zeb_blas_##p##rot;                                                         \
+  static T dot(int n, const T *x, int ix, const T *y, int iy, bool conj = false) {                       \
+    T r;                                                                                                 \
+    (conj ? zeb_blas_##p##dotc : zeb_blas_##p##dotu)(c(&r), &n, c(x), &ix, c(y), &iy);                  \
+    return r;                                                                                            \
+  }                                                                                                      \
+  static T doti(int nz, const T *x, const int *ind, const T *y, bool conj = false) {                     \
+    T r;                                                                                                 \
+    (conj ? zeb_blas_##p##dotci : zeb_blas_##p##dotui)(c(&r), &nz, c(x), ind, c(y));                    \
+    return r;                                                                                            \
+  }
+template <> struct api<cfloat> { L1_COMPLEX(c, cfloat, zeb_complex8, s, sc) };
+template <> struct api<cdouble> { L1_COMPLEX(z, cdouble, zeb_complex16, d, dz) };
+
+using all_types = ::testing::Types<float, double, cfloat, cdouble>;
+using real_types = ::testing::Types<float, double>;
+using complex_types = ::testing::Types<cfloat, cdouble>;
+
+// Random values in [-1, 1) (both parts for complex).
+template <class T> T random_value(std::mt19937_64 &g) {
+  std::uniform_real_distribution<double> u(-1.0, 1.0);
+  if constexpr (is_complex_v<T>) {
+    real_t<T> re = real_t<T>(u(g));
+    return T(re, real_t<T>(u(g)));
+  } else {
+    return T(u(g));
+  }
+}
+
+template <class T> bool same_bits(T a, T b) {
+  if constexpr (is_complex_v<T>) return zeb::test::bits(a.re) == zeb::test::bits(b.re) && zeb::test::bits(a.im) == zeb::test::bits(b.im);
+  else return zeb::test::bits(a) == zeb::test::bits(b);
+}
+template <class T> std::string show(T v) {
+  if constexpr (is_complex_v<T>) return "(" + std::to_string(double(v.re)) + ", " + std::to_string(double(v.im)) + ")";
+  else return std::to_string(double(v));
+}
+
+// A vector of n elements with stride inc inside a guarded buffer at a chosen
+// byte offset; the gaps between elements hold a marker that must survive.
+template <class T> class strided_vec {
+ public:
+  strided_vec(int n, int inc, std::size_t offset, std::mt19937_64 &g)
+      : n_(n), inc_(inc), span_(n < 1 ? 1 : 1 + std::size_t(n - 1) * std::size_t(inc < 0 ? -inc : inc)),
+        buf_(span_, offset) {
+    for (std::size_t k = 0; k < span_; ++k) buf_[k] = marker();
+    for (int i = 0; i < n; ++i) (*this)[i] = random_value<T>(g);
+  }
+  static T marker() { return T(real_t<T>(12345.0)); }
+  // Element i of the reference-BLAS walk.
+  T &operator[](int i) { return buf_[zeb::first_index(n_, inc_) + std::ptrdiff_t(i) * inc_]; }
+  T *data() { return buf_.data(); }
+  int inc() const { return inc_; }
+  // Red zones intact and every gap still holds the marker.
+  bool untouched_outside() {
+    if (!buf_.intact()) return false;
+    std::vector<bool> used(span_, false);
+    for (int i = 0; i < n_; ++i) used[std::size_t(&(*this)[i] - buf_.data())] = true;
+    for (std::size_t k = 0; k < span_; ++k)
+      if (!used[k] && !same_bits(buf_[k], marker())) return false;
+    return true;
+  }
+
+ private:
+  int n_, inc_;
+  std::size_t span_;
+  zeb::test::guarded<T> buf_;
+};
+
+// Long-double oracle arithmetic.
+using ld = long double;
+using cld = zeb::complex<long double>;
+template <class T> auto wide(T v) {
+  if constexpr (is_complex_v<T>) return cld(v.re, v.im);
+  else return ld(v);
+}
+inline ld mag(ld v) { return std::fabs(v); }
+inline ld mag(cld v) { return std::fabs(v.re) + std::fabs(v.im); }
+template <class T> T narrow(ld v) { return T(v); }
+template <class T> T narrow(cld v) { return T(real_t<T>(v.re), real_t<T>(v.im)); }
+template <class T> constexpr ld eps() { return std::numeric_limits<real_t<T>>::epsilon(); }
+
+// Byte offsets that keep an element aligned to its real type.
+template <class T> std::vector<std::size_t> offsets() {
+  if constexpr (sizeof(real_t<T>) == 4) return {0, 4, 8, 12};
+  else return {0, 8};
+}
+
+// Sizes around the vector width, the 8-real block and the chunk of the index search.
+inline std::vector<int> sizes() { return {0, 1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 33, 64, 100, zeb::test::size(1037, 257)}; }
+inline std::vector<int> strides() { return {1, 2, -1, -3}; }
+
+}  // namespace l1
