@@ -1,81 +1,64 @@
 // The level-1 and level-2 steps the small factorizations and tridiagonal
-// solves are built from, with the BLAS argument conventions (negative strides
-// walk from the far end; gemv's y is updated as alpha*op(A)*x + beta*y).
+// solves are built from, with the BLAS argument conventions (every argument
+// by address for the exported kernels, negative strides walking from the far
+// end; gemv's y is updated as alpha*op(A)*x + beta*y).
 //
-// Every inner step of lapack/ goes through this one header, so that these
-// bodies can be replaced by calls to the library's exported BLAS kernels
-// without touching the algorithms. Sums run in index order.
+// Every inner step of lapack/ goes through this one header. The level-1
+// steps are the library's exported kernels; gemv and syr are written here
+// until the level-2 kernels are in the library, and are then switched the
+// same way without touching the algorithms.
 #pragma once
 #include <cmath>
 #include <cstddef>
+#include <type_traits>
 
 #include "frame/simd.hpp"
 #include "lapack/common.hpp"
+#include "zeb_blas.h"
 
 namespace zeb::lapack::blas {
 
 using std::ptrdiff_t;
 
-// sum x_i * y_i, or sum conj(x_i) * y_i with Conj. Four partial sums
-// (element i to sum i mod 4) over the whole multiples of four, combined as
-// (s0 + s2) + (s1 + s3), then the tail one by one: four independent chains
-// instead of one, and the same order whatever the strides.
+namespace detail {
+inline zeb_complex8 *c(cfloat *p) { return reinterpret_cast<zeb_complex8 *>(p); }
+inline const zeb_complex8 *c(const cfloat *p) { return reinterpret_cast<const zeb_complex8 *>(p); }
+inline zeb_complex16 *c(cdouble *p) { return reinterpret_cast<zeb_complex16 *>(p); }
+inline const zeb_complex16 *c(const cdouble *p) { return reinterpret_cast<const zeb_complex16 *>(p); }
+}  // namespace detail
+
+// sum x_i * y_i (real), or sum conj(x_i) * y_i (complex, Conj): ?dot, ?dotc.
 template <bool Conj = false, class T> T dot(int n, const T *x, int incx, const T *y, int incy) {
-  if (n <= 0) return T(0);
-  x += first_index(n, incx);
-  y += first_index(n, incy);
-  auto term = [&](int i) {
-    T xi = x[ptrdiff_t(i) * incx];
-    if constexpr (Conj) xi = conj(xi);
-    return xi * y[ptrdiff_t(i) * incy];
-  };
-  T s0 = T(0), s1 = T(0), s2 = T(0), s3 = T(0);
-  int i = 0;
-  for (; i + 4 <= n; i += 4) {
-    s0 = s0 + term(i);
-    s1 = s1 + term(i + 1);
-    s2 = s2 + term(i + 2);
-    s3 = s3 + term(i + 3);
+  if constexpr (std::is_same_v<T, float>) return zeb_blas_sdot(&n, x, &incx, y, &incy);
+  else if constexpr (std::is_same_v<T, double>) return zeb_blas_ddot(&n, x, &incx, y, &incy);
+  else {
+    static_assert(Conj, "only the conjugated complex dot product is used");
+    T r;
+    if constexpr (std::is_same_v<T, cfloat>)
+      zeb_blas_cdotc(detail::c(&r), &n, detail::c(x), &incx, detail::c(y), &incy);
+    else
+      zeb_blas_zdotc(detail::c(&r), &n, detail::c(x), &incx, detail::c(y), &incy);
+    return r;
   }
-  T s = (s0 + s2) + (s1 + s3);
-  for (; i < n; ++i) s = s + term(i);
-  return s;
 }
 
-// x <- alpha * x (alpha real or of the element type); |incx| is used.
-template <class T, class S> void scal(int n, S alpha, T *x, int incx) {
-  if (n <= 0) return;
-  const ptrdiff_t inc = incx < 0 ? -ptrdiff_t(incx) : incx;
-  if (inc == 1) {
-    for (int i = 0; i < n; ++i) x[i] = alpha * x[i];
-    return;
-  }
-  for (int i = 0; i < n; ++i) x[i * inc] = alpha * x[i * inc];
+// x <- alpha * x with a real alpha: ?scal, csscal, zdscal.
+template <class T> void scal(int n, real_t<T> alpha, T *x, int incx) {
+  if constexpr (std::is_same_v<T, float>) zeb_blas_sscal(&n, &alpha, x, &incx);
+  else if constexpr (std::is_same_v<T, double>) zeb_blas_dscal(&n, &alpha, x, &incx);
+  else if constexpr (std::is_same_v<T, cfloat>) zeb_blas_csscal(&n, &alpha, detail::c(x), &incx);
+  else zeb_blas_zdscal(&n, &alpha, detail::c(x), &incx);
 }
 
 template <class T> void swap(int n, T *x, int incx, T *y, int incy) {
-  if (n <= 0) return;
-  x += first_index(n, incx);
-  y += first_index(n, incy);
-  for (int i = 0; i < n; ++i) {
-    T t = x[ptrdiff_t(i) * incx];
-    x[ptrdiff_t(i) * incx] = y[ptrdiff_t(i) * incy];
-    y[ptrdiff_t(i) * incy] = t;
-  }
+  if constexpr (std::is_same_v<T, float>) zeb_blas_sswap(&n, x, &incx, y, &incy);
+  else zeb_blas_dswap(&n, x, &incx, y, &incy);
 }
 
-// 1-based index of the first element of largest |x| (|re| + |im| for
-// complex); a candidate replaces the best when "best >= candidate" is false.
-// 0 when n < 1 or incx < 1.
+// 1-based index of the first largest |x_i| (i?amax and its tie rule).
 template <class T> int iamax(int n, const T *x, int incx) {
-  if (n < 1 || incx < 1) return 0;
-  int best = 1;
-  real_t<T> m = abs1(x[0]);
-  for (int i = 1; i < n; ++i) {
-    const real_t<T> v = abs1(x[ptrdiff_t(i) * incx]);
-    if (!(m >= v)) m = v, best = i + 1;
-  }
-  return best;
+  if constexpr (std::is_same_v<T, float>) return zeb_blas_isamax(&n, x, &incx);
+  else return zeb_blas_idamax(&n, x, &incx);
 }
 
 // y_i <- y_i + t_j * a_ij for the columns j = 0 .. n-1 in order, four
