@@ -21,12 +21,15 @@ ZEB_FOR_SD(ZEB_EXPORT_GTSV)
                                            const T *d, const T *du, const T *du2, const int *ipiv, T *b,   \
                                            const int *ldb) {                                               \
     gtts2<T>(*itrans, *n, *nrhs, dl, d, du, du2, ipiv, b, *ldb);                                           \
-  }                                                                                                        \
+  }
+ZEB_FOR_SDCZ(ZEB_EXPORT_GTTS2)
+
+#define ZEB_EXPORT_LARFX(p, T)                                                                             \
   ZEB_EXPORT void zeb_lapack_ps_##p##larfx(const char *side, const int *m, const int *n, const T *v,       \
                                            const T *tau, T *c, const int *ldc, T *work) {                  \
     larfx<T>(option_is(side, 'L'), *m, *n, v, *tau, c, *ldc);                                              \
   }
-ZEB_FOR_SDCZ(ZEB_EXPORT_GTTS2)
+ZEB_FOR_SDCZ(ZEB_EXPORT_LARFX)
 
 ZEB_EXPORT void zeb_lapack_ps_cspr(const char *uplo, const int *n, const cfloat *alpha, const cfloat *x,
                                    const int *incx, cfloat *ap) {

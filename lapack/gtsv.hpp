@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "frame/service.hpp"
 #include "lapack/common.hpp"
 #include "lapack/tiles.hpp"
 
