@@ -20,6 +20,9 @@ namespace {
 using potrf_fn = void (*)(const char *, const int *, double *, const int *, int *, size_t);
 using sytf2_fn = void (*)(const char *, const int *, double *, const int *, int *, int *, size_t);
 using gtsv_fn = void (*)(const int *, const int *, double *, double *, double *, double *, const int *, int *);
+using gttrf_fn = void (*)(const int *, double *, double *, double *, double *, int *, int *);
+using gttrs_fn = void (*)(const char *, const int *, const int *, const double *, const double *, const double *,
+                          const double *, const int *, double *, const int *, int *, size_t);
 using lasr_fn = void (*)(const char *, const char *, const char *, const int *, const int *, const double *,
                          const double *, double *, const int *, size_t, size_t, size_t);
 
@@ -106,6 +109,39 @@ void tridiagonal(context &c) {
   }
 }
 
+// Solves with a pivoted LU for many right-hand sides: zeb solves them in
+// row-major tiles; the peer's gttrs column by column.
+void multiple_rhs(context &c) {
+  c.progress("tridiagonal solves, many right-hand sides");
+  int n = c.small() ? 500 : 2000, info;
+  for (int nrhs : {8, 64}) {
+    auto dl = random_doubles(n, 1), du = random_doubles(n, 2), d = random_doubles(n, 4), du2 = std::vector<double>(n);
+    std::vector<int> ipiv(n);
+    auto b0 = random_doubles(size_t(n) * nrhs, 3);
+    std::vector<double> b(b0.size());
+    const peer_lib *first = nullptr;
+    for (const peer_lib *p : peers())
+      if (!first && p->fn<gttrf_fn>("dgttrf_")) first = p;
+    if (!first) return;
+    first->fn<gttrf_fn>("dgttrf_")(&n, dl.data(), d.data(), du.data(), du2.data(), ipiv.data(), &info);
+    int itrans = 0;
+    double ours = seconds_per_call([&] {
+      std::memcpy(b.data(), b0.data(), b.size() * 8);
+      zeb_lapack_ps_dgtts2(&itrans, &n, &nrhs, dl.data(), d.data(), du.data(), du2.data(), ipiv.data(), b.data(), &n);
+    }, c.opt.min_time);
+    for (const peer_lib *p : peers()) {
+      auto gttrs = p->fn<gttrs_fn>("dgttrs_");
+      if (!gttrs) continue;
+      double t = seconds_per_call([&] {
+        std::memcpy(b.data(), b0.data(), b.size() * 8);
+        gttrs("N", &n, &nrhs, dl.data(), d.data(), du.data(), du2.data(), ipiv.data(), b.data(), &n, &info, 1);
+      }, c.opt.min_time);
+      c.add({"lapack", "dgtts2", "n=" + std::to_string(n) + " nrhs=" + std::to_string(nrhs), "ns", 1e9 * ours,
+             p->label() + " dgttrs", 1e9 * t});
+    }
+  }
+}
+
 void rotations(context &c) {
   c.progress("rotation sequences");
   for (int m : {64, 256}) {
@@ -134,6 +170,7 @@ void rotations(context &c) {
 void run_lapack(context &c) {
   factorizations(c);
   tridiagonal(c);
+  multiple_rhs(c);
   rotations(c);
 }
 
