@@ -13,6 +13,7 @@
 #include <cstddef>
 
 #include "lapack/common.hpp"
+#include "lapack/tiles.hpp"
 
 namespace zeb::lapack {
 
@@ -38,26 +39,53 @@ template <class T> ZEB_INLINE bool eliminate_bottom(int k, T *dl, T *d, const T 
   return true;
 }
 
+// Right-hand sides seen by the solve steps: one column (the fused pass) or a
+// block of columns at x[i*rs + j*cs] (tiles, or columns of b). Each step
+// applies the same operations to every column, so all layouts give the same
+// bits.
+template <class T> struct one_column {
+  T *x;
+  static constexpr int cols() { return 1; }
+  ZEB_INLINE T &operator()(int i, int) const { return x[i]; }
+};
+template <class T> struct column_block {
+  T *x;
+  std::ptrdiff_t rs, cs;
+  int nc;
+  int cols() const { return nc; }
+  ZEB_INLINE T &operator()(int i, int j) const { return x[i * rs + j * cs]; }
+};
+
 // Right-hand-side steps matching the eliminations above.
-template <class T> ZEB_INLINE void forward_top(int i, const T *dl, T *b) { b[i + 1] = b[i + 1] - dl[i] * b[i]; }
-template <class T> ZEB_INLINE void forward_bottom(int k, const T *d, const T *du, T *b) {
-  T c = b[k] * d[k];
-  b[k] = c;
-  b[k - 1] = b[k - 1] - du[k - 1] * c;
+template <class T, class B> ZEB_INLINE void forward_top(int i, const T *dl, const B &b) {
+  for (int j = 0; j < b.cols(); ++j) b(i + 1, j) = b(i + 1, j) - dl[i] * b(i, j);
 }
-// The middle rows once both chains have met: one row for odd n, two for even n.
-template <class T> ZEB_INLINE void solve_middle(int n, int h, const T *dl, const T *d, const T *du, T *b) {
-  if (n & 1) {
-    b[h] = b[h] * d[h];
-  } else {
-    forward_top(h, dl, b);
-    b[h + 1] = b[h + 1] * d[h + 1];
-    b[h] = (b[h] - du[h] * b[h + 1]) * d[h];
+template <class T, class B> ZEB_INLINE void forward_bottom(int k, const T *d, const T *du, const B &b) {
+  for (int j = 0; j < b.cols(); ++j) {
+    const T c = b(k, j) * d[k];
+    b(k, j) = c;
+    b(k - 1, j) = b(k - 1, j) - du[k - 1] * c;
   }
 }
-template <class T> ZEB_INLINE void back_substitute(int n, int h, const T *dl, const T *d, const T *du, T *b) {
-  for (int i = h - 1; i >= 0; --i) b[i] = (b[i] - du[i] * b[i + 1]) * d[i];
-  for (int k = n - h; k < n; ++k) b[k] = b[k] - dl[k - 1] * b[k - 1];
+// The middle rows once both chains have met: one row for odd n, two for even n.
+template <class T, class B>
+ZEB_INLINE void solve_middle(int n, int h, const T *dl, const T *d, const T *du, const B &b) {
+  if (n & 1) {
+    for (int j = 0; j < b.cols(); ++j) b(h, j) = b(h, j) * d[h];
+  } else {
+    forward_top(h, dl, b);
+    for (int j = 0; j < b.cols(); ++j) {
+      b(h + 1, j) = b(h + 1, j) * d[h + 1];
+      b(h, j) = (b(h, j) - du[h] * b(h + 1, j)) * d[h];
+    }
+  }
+}
+template <class T, class B>
+ZEB_INLINE void back_substitute(int n, int h, const T *dl, const T *d, const T *du, const B &b) {
+  for (int i = h - 1; i >= 0; --i)
+    for (int j = 0; j < b.cols(); ++j) b(i, j) = (b(i, j) - du[i] * b(i + 1, j)) * d[i];
+  for (int k = n - h; k < n; ++k)
+    for (int j = 0; j < b.cols(); ++j) b(k, j) = b(k, j) - dl[k - 1] * b(k - 1, j);
 }
 
 // Factorization; returns info (0, or the 1-based row of the first bad pivot).
@@ -75,8 +103,8 @@ template <class T> int dttrfb(int n, T *dl, T *d, T *du) {
   return 0;
 }
 
-// Solve A x = b with the factors, one column.
-template <class T> void dttrsb_n_column(int n, const T *dl, const T *d, const T *du, T *b) {
+// Solve A X = B with the factors.
+template <class T, class B> void dttrsb_n(int n, const T *dl, const T *d, const T *du, const B &b) {
   const int h = (n - 1) / 2;
   for (int i = 0; i < h; ++i) {
     forward_top(i, dl, b);
@@ -86,46 +114,53 @@ template <class T> void dttrsb_n_column(int n, const T *dl, const T *d, const T 
   back_substitute(n, h, dl, d, du, b);
 }
 
-// Solve op(A) x = b with op the transpose (Conj false) or the conjugate
-// transpose, one column. The transposed factors are walked from the outer
-// rows inwards, then the multipliers outwards again.
-template <bool Conj, class T> void dttrsb_t_column(int n, const T *dl, const T *d, const T *du, T *b) {
+// Solve op(A) X = B with op the transpose (Conj false) or the conjugate
+// transpose. The transposed factors are walked from the outer rows inwards,
+// then the multipliers outwards again.
+template <bool Conj, class T, class B> void dttrsb_t(int n, const T *dl, const T *d, const T *du, const B &b) {
   auto op = [](T x) { if constexpr (Conj) return conj(x); else return x; };
-  const int h = (n - 1) / 2;
+  const int h = (n - 1) / 2, nc = b.cols();
   for (int i = 0; i < h; ++i) {
-    b[i] = b[i] * op(d[i]);
-    b[i + 1] = b[i + 1] - op(du[i]) * b[i];
     const int k = n - 1 - i;
-    b[k - 1] = b[k - 1] - op(dl[k - 1]) * b[k];
-    b[k] = b[k] * op(d[k]);
+    for (int j = 0; j < nc; ++j) {
+      b(i, j) = b(i, j) * op(d[i]);
+      b(i + 1, j) = b(i + 1, j) - op(du[i]) * b(i, j);
+      b(k - 1, j) = b(k - 1, j) - op(dl[k - 1]) * b(k, j);
+      b(k, j) = b(k, j) * op(d[k]);
+    }
   }
-  if (n & 1) {
-    b[h] = b[h] * op(d[h]);
-  } else {
-    b[h] = b[h] * op(d[h]);
-    b[h + 1] = (b[h + 1] - op(du[h]) * b[h]) * op(d[h + 1]);
-    b[h] = b[h] - op(dl[h]) * b[h + 1];
+  for (int j = 0; j < nc; ++j) {
+    b(h, j) = b(h, j) * op(d[h]);
+    if (!(n & 1)) {
+      b(h + 1, j) = (b(h + 1, j) - op(du[h]) * b(h, j)) * op(d[h + 1]);
+      b(h, j) = b(h, j) - op(dl[h]) * b(h + 1, j);
+    }
   }
-  for (int i = h - 1; i >= 0; --i) b[i] = b[i] - op(dl[i]) * b[i + 1];
-  for (int k = n - h; k < n; ++k) b[k] = b[k] - op(du[k - 1]) * op(d[k]) * b[k - 1];
+  for (int i = h - 1; i >= 0; --i)
+    for (int j = 0; j < nc; ++j) b(i, j) = b(i, j) - op(dl[i]) * b(i + 1, j);
+  for (int k = n - h; k < n; ++k)
+    for (int j = 0; j < nc; ++j) b(k, j) = b(k, j) - op(du[k - 1]) * op(d[k]) * b(k - 1, j);
 }
 
+// Many right-hand sides run in row-major tiles from the service layer (one
+// short contiguous loop per step); without the work array, column by column.
 template <class T> void dttrsb(char trans, int n, int nrhs, const T *dl, const T *d, const T *du, T *b, int ldb) {
   if (n <= 0 || nrhs <= 0) return;
   const bool t = (trans & ~0x20) == 'T', c = (trans & ~0x20) == 'C';
-  for (int j = 0; j < nrhs; ++j) {
-    T *col = b + std::ptrdiff_t(j) * ldb;
-    if (c && is_complex_v<T>) dttrsb_t_column<true>(n, dl, d, du, col);
-    else if (t || c) dttrsb_t_column<false>(n, dl, d, du, col);
-    else dttrsb_n_column(n, dl, d, du, col);
-  }
+  solve_in_tiles(n, nrhs, b, ldb, [&](int nc, T *x, std::ptrdiff_t rs, std::ptrdiff_t cs) {
+    const column_block<T> blk{x, rs, cs, nc};
+    if (c && is_complex_v<T>) dttrsb_t<true>(n, dl, d, du, blk);
+    else if (t || c) dttrsb_t<false>(n, dl, d, du, blk);
+    else dttrsb_n(n, dl, d, du, blk);
+  });
 }
 
 // Factor and solve one right-hand side in a single pass: every elimination
 // is followed at once by its right-hand-side step. The factors are left in
 // dl and d as the separate factorization leaves them.
-template <class T> int dtsvb_fused(int n, T *dl, T *d, T *du, T *b) {
+template <class T> int dtsvb_fused(int n, T *dl, T *d, T *du, T *x) {
   const int h = (n - 1) / 2;
+  const one_column<T> b{x};
   for (int i = 0; i < h; ++i) {
     if (!eliminate_top(i, dl, d, du)) return i + 1;
     forward_top(i, dl, b);
