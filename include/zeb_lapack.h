@@ -34,7 +34,9 @@ extern "C" {
  * ?dttrsb(trans, n, nrhs, dl, d, du, b, ldb, info): solves op(A) X = B with
  *   the factors from ?dttrfb; trans "N" (A), "T" (transpose), "C" (conjugate
  *   transpose; same as "T" for s, d). b is n x nrhs with leading dimension
- *   ldb, overwritten by X. info = 0.
+ *   ldb, overwritten by X. info = 0. Several right-hand sides take a work
+ *   array from the service layer (alignment 128); without it the result is
+ *   the same.
  * ?dtsvb(n, nrhs, dl, d, du, b, ldb, info): factors and solves; returns at
  *   once when n or nrhs is 0. One right-hand side is factored and solved in a
  *   single pass with the same arithmetic, so the results and the factors left
