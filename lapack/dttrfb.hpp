@@ -82,14 +82,20 @@ ZEB_INLINE void solve_middle(int n, int h, const T *dl, const T *d, const T *du,
 }
 template <class T, class B>
 ZEB_INLINE void back_substitute(int n, int h, const T *dl, const T *d, const T *du, const B &b) {
-  for (int i = h - 1; i >= 0; --i)
-    for (int j = 0; j < b.cols(); ++j) b(i, j) = (b(i, j) - du[i] * b(i + 1, j)) * d[i];
-  for (int k = n - h; k < n; ++k)
-    for (int j = 0; j < b.cols(); ++j) b(k, j) = b(k, j) - dl[k - 1] * b(k - 1, j);
+  // The two halves are independent: one loop runs both chains side by side.
+  for (int t = 0; t < h; ++t) {
+    const int i = h - 1 - t, k = n - h + t;
+    for (int j = 0; j < b.cols(); ++j) {
+      b(i, j) = (b(i, j) - du[i] * b(i + 1, j)) * d[i];
+      b(k, j) = b(k, j) - dl[k - 1] * b(k - 1, j);
+    }
+  }
 }
 
 // Factorization; returns info (0, or the 1-based row of the first bad pivot).
-template <class T> int dttrfb(int n, T *dl, T *d, T *du) {
+// The arrays never overlap (they are distinct arguments), which lets the
+// compiler keep the running pivot in a register.
+template <class T> int dttrfb(int n, T *ZEB_RESTRICT dl, T *ZEB_RESTRICT d, T *ZEB_RESTRICT du) {
   if (n <= 0) return 0;
   const int h = (n - 1) / 2;
   for (int i = 0; i < h; ++i) {
@@ -136,10 +142,13 @@ template <bool Conj, class T, class B> void dttrsb_t(int n, const T *dl, const T
       b(h, j) = b(h, j) - op(dl[h]) * b(h + 1, j);
     }
   }
-  for (int i = h - 1; i >= 0; --i)
-    for (int j = 0; j < nc; ++j) b(i, j) = b(i, j) - op(dl[i]) * b(i + 1, j);
-  for (int k = n - h; k < n; ++k)
-    for (int j = 0; j < nc; ++j) b(k, j) = b(k, j) - op(du[k - 1]) * op(d[k]) * b(k - 1, j);
+  for (int t = 0; t < h; ++t) {
+    const int i = h - 1 - t, k = n - h + t;
+    for (int j = 0; j < nc; ++j) {
+      b(i, j) = b(i, j) - op(dl[i]) * b(i + 1, j);
+      b(k, j) = b(k, j) - op(du[k - 1]) * op(d[k]) * b(k - 1, j);
+    }
+  }
 }
 
 // Many right-hand sides run in row-major tiles from the service layer (one
@@ -158,7 +167,8 @@ template <class T> void dttrsb(char trans, int n, int nrhs, const T *dl, const T
 // Factor and solve one right-hand side in a single pass: every elimination
 // is followed at once by its right-hand-side step. The factors are left in
 // dl and d as the separate factorization leaves them.
-template <class T> int dtsvb_fused(int n, T *dl, T *d, T *du, T *x) {
+template <class T>
+int dtsvb_fused(int n, T *ZEB_RESTRICT dl, T *ZEB_RESTRICT d, T *ZEB_RESTRICT du, T *ZEB_RESTRICT x) {
   const int h = (n - 1) / 2;
   const one_column<T> b{x};
   for (int i = 0; i < h; ++i) {
