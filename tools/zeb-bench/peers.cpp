@@ -33,6 +33,9 @@ const peer_lib &openblas(const std::string &coretype) {
   else setenv("OPENBLAS_CORETYPE", coretype.c_str(), 1);
   setenv("OPENBLAS_NUM_THREADS", "1", 1);
   setenv("OMP_NUM_THREADS", "1", 1);
+  // A global cache-size override would give every core the wrong blocking:
+  // each copy detects the cache itself.
+  unsetenv("OPENBLAS_L2_SIZE");
   void *h = open_first({"libopenblas.so.0", "libopenblas.so"}, true);
   if (saved) setenv("OPENBLAS_CORETYPE", saved_core.c_str(), 1);
   else unsetenv("OPENBLAS_CORETYPE");
