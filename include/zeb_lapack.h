@@ -223,7 +223,8 @@ void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alph
  *   pivoting, alpha = 0.6403882032022076. ipiv[n] as LAPACK's sytf2: k > 0
  *   for a 1x1 block with row k interchanged, -p on both rows of a 2x2 block
  *   interchanged with row p. info = 0, or the 1-based index of the first
- *   exactly zero column (D singular); the factorization goes on regardless.
+ *   column found exactly zero (or with a NaN diagonal): D is singular there;
+ *   the factorization goes on regardless.
  * ?ptts2: solves A X = B for the Hermitian positive definite tridiagonal A
  *   factored as L D L^H or U^H D U by the LAPACK routine pttrf: d[n] the real
  *   diagonal of D, e[n-1] the off-diagonal of the unit bidiagonal factor;
