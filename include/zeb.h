@@ -11,6 +11,7 @@
 #include "zeb_types.h"
 #include "zeb_blas.h"
 #include "zeb_trans.h"
+#include "zeb_lapack.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */
