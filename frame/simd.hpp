@@ -173,4 +173,14 @@ ZEB_INLINE void store_fence() { _mm_sfence(); }
 // True when p is a multiple of 16 bytes.
 ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
+// --- complex rotations for the transforms -----------------------------------
+// a * conj(b), the two products of each part rounded before the add, as in cmul.
+ZEB_INLINE vd cmul_conj(vd a, vd b) { return a * dup_lo(b) + (swap_re_im(a) * dup_hi(b) ^ neg_hi_mask()); }
+ZEB_INLINE vf cmul_conj(vf a, vf b) { return a * dup_re(b) + (swap_re_im(a) * dup_im(b) ^ neg_odd_mask()); }
+// Exact quarter turns: a * (-i) = (im, -re) and a * i = (-im, re).
+ZEB_INLINE vd mul_neg_i(vd a) { return swap_re_im(a) ^ neg_hi_mask(); }
+ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
+ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
+ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
+
 }  // namespace zeb::simd

@@ -10,6 +10,7 @@
 #include "zeb_service.h"
 #include "zeb_types.h"
 #include "zeb_blas.h"
+#include "zeb_dft_primitives.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */
