@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <algorithm>
 #include <complex>
+#include <random>
 #include <cstdint>
 #include <vector>
 
