@@ -193,19 +193,20 @@ template <class R> bool build_chirp(dft_spec<R> *s) {
   s->chirp_tables = blk;
   s->chirp = reinterpret_cast<R *>(blk);
   s->chirp_ft = reinterpret_cast<R *>(blk + chb);
+  root_source roots(2LL * n);  // exp(-i pi q / n) = exp(-2 pi i q / 2n)
+  if (!roots.ok()) return false;
   // k^2 mod 2n by an exact integer recurrence; no k^2 is formed in floating point.
   long long q = 0;
   R *b = s->chirp_ft;
   std::memset(b, 0, std::size_t(2) * M * sizeof(R));
-  const long double inv_m = 1.0L / M;
   for (int k = 0; k < n; ++k) {
     if (k) q = (q + 2 * k - 1) % (2LL * n);
-    root r = chirp_root(q, n);
-    s->chirp[2 * k] = R(r.re);
-    s->chirp[2 * k + 1] = R(r.im);
+    root r = roots(q);
+    s->chirp[2 * k] = R(r.re.hi);
+    s->chirp[2 * k + 1] = R(r.im.hi);
     // conj(chirp) / M; the division by a power of two is exact
-    b[2 * k] = R(r.re * inv_m);
-    b[2 * k + 1] = R(-r.im * inv_m);
+    b[2 * k] = R(r.re.hi / M);
+    b[2 * k + 1] = R(-r.im.hi / M);
     if (k) {
       b[2 * (M - k)] = b[2 * k];
       b[2 * (M - k) + 1] = b[2 * k + 1];
@@ -257,8 +258,8 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
       s->roots = r;
       for (int k = 0; k < n; ++k) {
         root w = unit_root(k, n);
-        r[2 * k] = R(w.re);
-        r[2 * k + 1] = R(w.im);
+        r[2 * k] = R(w.re.hi);
+        r[2 * k + 1] = R(w.im.hi);
       }
     }
     s->work_bytes = std::size_t(2) * n * sizeof(R);

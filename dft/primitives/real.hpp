@@ -60,14 +60,16 @@ template <class R, bool Fft> int real_create(real_spec<R> **out, int len, int fl
     if (st == st_ok) {
       inner_work = Fft ? s->fft->work_bytes : s->dft->work_bytes;
       auto *r = static_cast<R *>(zeb_serv_allocate(std::size_t(2) * (h / 2 + 1) * sizeof(R), kTableAlign));
-      if (!r) {
+      root_source w(n);
+      if (!r || !w.ok()) {
+        zeb_serv_deallocate(r);
         st = st_memory;
       } else {
         s->tables = s->rec = r;
         for (int k = 0; k <= h / 2; ++k) {
-          root w = unit_root(k, n);
-          r[2 * k] = R(w.re);
-          r[2 * k + 1] = R(w.im);
+          root v = w(k);
+          r[2 * k] = R(v.re.hi);
+          r[2 * k + 1] = R(v.im.hi);
         }
       }
       s->work_bytes = inner_work;

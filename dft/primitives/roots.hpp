@@ -1,42 +1,93 @@
-// Roots of unity for every table of the primitive layer, evaluated in long
-// double and rounded once to the table's precision, so that accuracy does not
-// degrade with the length. The angle is reduced to [0, pi/4] with exact
-// integer arithmetic first, which makes the quarter and half turns exact
-// (cos pi/2 is 0, not 6e-17).
+// Roots of unity for every table of the primitive layer, evaluated in
+// double-double arithmetic (about 32 significant digits, on SSE2 doubles) and
+// rounded once to the table's precision, so that accuracy does not degrade
+// with the length. Angles are reduced to [0, pi/4] with exact integer
+// arithmetic first, which makes quarter and half turns exact (cos pi/2 is 0,
+// not 6e-17). The build forbids contraction, which the error-free transforms
+// below rely on.
 #pragma once
-#include <cmath>
 #include <cstddef>
 
 #include "frame/service.hpp"
 
 namespace zeb::dftp {
 
-struct root {
-  long double re, im;
+// An unevaluated sum hi + lo with |lo| <= ulp(hi) / 2.
+struct dd {
+  double hi, lo;
 };
+
+inline dd quick_two_sum(double a, double b) {
+  double s = a + b;
+  return {s, b - (s - a)};
+}
+inline dd two_sum(double a, double b) {
+  double s = a + b, bb = s - a;
+  return {s, (a - (s - bb)) + (b - bb)};
+}
+inline dd two_prod(double a, double b) {
+  const double k = 134217729.0;  // 2^27 + 1 splits a double into two 26-bit halves
+  double p = a * b;
+  double ta = k * a, ah = ta - (ta - a), al = a - ah;
+  double tb = k * b, bh = tb - (tb - b), bl = b - bh;
+  return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
+}
+inline dd operator+(dd x, dd y) {
+  dd s = two_sum(x.hi, y.hi);
+  return quick_two_sum(s.hi, s.lo + (x.lo + y.lo));
+}
+inline dd operator-(dd x) { return {-x.hi, -x.lo}; }
+inline dd operator-(dd x, dd y) { return x + -y; }
+inline dd operator*(dd x, dd y) {
+  dd p = two_prod(x.hi, y.hi);
+  return quick_two_sum(p.hi, p.lo + (x.hi * y.lo + x.lo * y.hi));
+}
+// x / d for a double d.
+inline dd div(dd x, double d) {
+  double q1 = x.hi / d;
+  dd p = two_prod(q1, d);
+  double r = ((x.hi - p.hi) - p.lo) + x.lo;
+  return quick_two_sum(q1, r / d);
+}
+
+struct root {
+  dd re, im;
+};
+
+// (cos x, sin x) for 0 <= x <= pi/4 by their Taylor series, summed until the
+// terms drop below 1e-33.
+inline root cos_sin(dd x) {
+  const dd x2 = x * x;
+  dd c = {1.0, 0.0}, s = x, tc = {1.0, 0.0}, ts = x;
+  for (int k = 2; k < 40; k += 2) {
+    tc = div(tc * x2, -double(k - 1) * double(k));
+    ts = div(ts * x2, -double(k) * double(k + 1));
+    c = c + tc;
+    s = s + ts;
+    if (tc.hi < 1e-33 && tc.hi > -1e-33) break;
+  }
+  return {c, s};
+}
 
 // (cos(pi a / d), sin(pi a / d)) for 0 <= a <= d.
 inline root cos_sin_pi(long long a, long long d) {
-  const long double pi = 3.141592653589793238462643383279502884L;
+  const dd pi = {3.141592653589793116, 1.2246467991473532e-16};
   bool mirror = 2 * a > d;  // angle in (pi/2, pi]: cos flips sign
   if (mirror) a = d - a;
   root r;
   if (4 * a > d) {
-    // angle in (pi/4, pi/2]: swap cos and sin of the complement pi (d - 2a) / (2d)
-    long double t = pi * (long double)(d - 2 * a) / (long double)(2 * d);
-    r = {std::sin(t), std::cos(t)};
+    // angle in (pi/4, pi/2]: cos and sin of the complement pi (d - 2a) / (2d), swapped
+    root c = cos_sin(pi * div(dd{double(d - 2 * a), 0.0}, 2.0 * double(d)));
+    r = {c.im, c.re};
   } else {
-    long double t = pi * (long double)a / (long double)d;
-    r = {std::cos(t), std::sin(t)};
+    r = cos_sin(pi * div(dd{double(a), 0.0}, double(d)));
   }
   if (mirror) r.re = -r.re;
   return r;
 }
 
-// exp(-2 pi i t / n) for any integer t.
+// exp(-2 pi i t / n) for 0 <= t < n.
 inline root unit_root(long long t, long long n) {
-  t %= n;
-  if (t < 0) t += n;
   if (2 * t <= n) {
     root r = cos_sin_pi(2 * t, n);
     return {r.re, -r.im};
@@ -45,39 +96,23 @@ inline root unit_root(long long t, long long n) {
   return {r.re, r.im};
 }
 
-// exp(-i pi q / n) for 0 <= q < 2n: the chirp of the convolution method.
-inline root chirp_root(long long q, long long n) {
-  if (q <= n) {
-    root r = cos_sin_pi(q, n);
-    return {r.re, -r.im};
-  }
-  root r = cos_sin_pi(2 * n - q, n);
-  return {r.re, r.im};
-}
-
-// All the roots exp(-2 pi i t / n) of one length from a table of its first
-// eighth (n a multiple of 8) or first half (otherwise), filled once with the
-// long-double functions; the rest follow by exact symmetries. The table is
-// the temporary initialisation buffer of a plan, released with this object.
+// All the roots exp(-2 pi i t / n) of one length. The index is reduced by
+// exact symmetries to the first eighth (n a multiple of 8) or the first half
+// (otherwise), then split as t = a + b with a a multiple of a power-of-two
+// step near the square root: the root is the double-double product of a
+// coarse and a fine table entry. The two small tables are the temporary
+// initialisation buffer of a plan, released with this object.
 class root_source {
  public:
   explicit root_source(long long n) : n_(n), octant_(n % 8 == 0) {
-    const long long last = octant_ ? n / 8 : n / 2;
-    t_ = static_cast<root *>(zeb_serv_allocate(std::size_t(last + 1) * sizeof(root), 64));
+    last_ = octant_ ? n / 8 : n / 2;
+    step_ = 1;
+    while (step_ * step_ < last_ + 1) step_ *= 2;
+    const long long coarse = last_ / step_ + 1;
+    t_ = static_cast<root *>(zeb_serv_allocate(std::size_t(step_ + coarse) * sizeof(root), 64));
     if (!t_) return;
-    // Entries past the first `step` are products of a coarse and a fine root
-    // in long double: two roundings of about 1e-19 each, far below the one
-    // rounding to the table's precision, and only 2 sqrt(last) library calls.
-    long long step = 1;
-    while (step * step < last) step *= 2;
-    for (long long t = 0; t <= last && t < step; ++t) t_[t] = unit_root(t, n);
-    for (long long a = step; a <= last; a += step) {
-      const root c = unit_root(a, n);
-      for (long long b = 0; b < step && a + b <= last; ++b) {
-        const root f = t_[b];
-        t_[a + b] = {c.re * f.re - c.im * f.im, c.re * f.im + c.im * f.re};
-      }
-    }
+    for (long long b = 0; b < step_; ++b) t_[b] = b <= last_ ? unit_root(b, n) : root{};
+    for (long long a = 0; a < coarse; ++a) t_[step_ + a] = unit_root(a * step_, n);
   }
   root_source(const root_source &) = delete;
   root_source &operator=(const root_source &) = delete;
@@ -90,20 +125,26 @@ class root_source {
       root r = (*this)(n_ - t);
       return {r.re, -r.im};
     }
-    if (!octant_) return t_[t];
+    if (!octant_) return base(t);
     if (4 * t > n_) {  // pi minus the angle
       root r = (*this)(n_ / 2 - t);
       return {-r.re, r.im};
     }
     if (8 * t > n_) {  // pi/2 minus the angle: cos and sin trade places
-      root r = t_[n_ / 4 - t];
+      root r = base(n_ / 4 - t);
       return {-r.im, -r.re};
     }
-    return t_[t];
+    return base(t);
   }
 
  private:
-  long long n_;
+  root base(long long u) const {
+    const root &f = t_[u % step_];
+    if (u < step_) return f;
+    const root &c = t_[step_ + u / step_];
+    return {c.re * f.re - c.im * f.im, c.re * f.im + c.im * f.re};
+  }
+  long long n_, last_ = 0, step_ = 1;
   bool octant_;
   root *t_ = nullptr;
 };

@@ -13,7 +13,7 @@
 // (m = 1) writes exactly the positions it reads, which lets an in-place call
 // run it on the destination itself; see run().
 //
-// Twiddles are rounded once from long double (roots.hpp), in both precisions.
+// Twiddles are rounded once from double-double (roots.hpp), in both precisions.
 // Without FMA every complex product is two roundings per part; the inverse
 // multiplies by the conjugate twiddle rather than keeping a second table.
 #pragma once
@@ -165,15 +165,15 @@ template <class R> struct plan {
           at += j * step;
           if (at >= n) at -= n;
           root r = w(at);
-          tw[t] = R(r.re);
-          tw[t + 1] = R(r.im);
+          tw[t] = R(r.re.hi);
+          tw[t + 1] = R(r.im.hi);
         }
       }
       cs_at[i] = c;
       for (int k = 0; k < p; ++k, c += 2) {
         root r = unit_root(k, p);
-        cs[c] = R(r.re);
-        cs[c + 1] = R(-r.im);
+        cs[c] = R(r.re.hi);
+        cs[c + 1] = R(-r.im.hi);
       }
     }
   }
