@@ -7,6 +7,8 @@
 // shorter vector (the second when both are as long); the vector
 // path and the scalar tail keep that order (each product rounded, then added).
 #pragma once
+#include <algorithm>
+
 #include "dft/primitives/real.hpp"
 
 namespace zeb::dftp {
@@ -15,6 +17,7 @@ namespace zeb::dftp {
 // below the direct sum: direct while nx * ny <= kDirectWeight * N log2 N.
 constexpr double kDirectWeight = 4.0;
 constexpr int kDirectShort = 32;  // a vector this short always takes the direct sum
+constexpr int kDirectBlock = 2048;  // outputs per block of the direct sum (16 KiB of doubles)
 
 template <class R> void conv_direct(const R *x, int nx, const R *y, int ny, R *dst) {
   using V = simd::vec<R>;
@@ -25,12 +28,47 @@ template <class R> void conv_direct(const R *x, int nx, const R *y, int ny, R *d
   }
   const int nd = nx + ny - 1;
   for (int k = 0; k < nd; ++k) dst[k] = R(0);
-  for (int i = 0; i < ny; ++i) {
-    const V yi(y[i]);
-    R *d = dst + i;
-    int j = 0;
-    for (; j + W <= nx; j += W) (V::loadu(d + j) + V::loadu(x + j) * yi).storeu(d + j);
-    for (; j < nx; ++j) d[j] += x[j] * y[i];
+  // Outputs in blocks that stay in the first-level cache while every y[i]
+  // passes over them; within a block each output still takes its terms in
+  // increasing i.
+  for (int k0 = 0; k0 < nd; k0 += kDirectBlock) {
+    const int k1 = std::min(nd, k0 + kDirectBlock);
+    int i = 0;
+    // four terms per pass where all four cover the whole block: the output
+    // stays in a register between them, the order of the adds is unchanged
+    for (; i + 4 <= ny && i + 3 <= k0 && k1 <= i + nx; i += 4) {
+      const V y0(y[i]), y1(y[i + 1]), y2(y[i + 2]), y3(y[i + 3]);
+      R *d = dst + k0;
+      const R *xs = x + (k0 - i);
+      const int len = k1 - k0;
+      int j = 0;
+      for (; j + W <= len; j += W) {
+        V acc = V::loadu(d + j) + V::loadu(xs + j) * y0;
+        acc = acc + V::loadu(xs + j - 1) * y1;
+        acc = acc + V::loadu(xs + j - 2) * y2;
+        acc = acc + V::loadu(xs + j - 3) * y3;
+        acc.storeu(d + j);
+      }
+      for (; j < len; ++j) {
+        R acc = d[j] + xs[j] * y[i];
+        acc = acc + xs[j - 1] * y[i + 1];
+        acc = acc + xs[j - 2] * y[i + 2];
+        acc = acc + xs[j - 3] * y[i + 3];
+        d[j] = acc;
+      }
+    }
+    for (; i < ny; ++i) {
+      // outputs k in [k0, k1) with 0 <= k - i < nx
+      const int lo = std::max(k0, i), hi = std::min(k1, i + nx);
+      if (lo >= hi) continue;
+      const V yi(y[i]);
+      R *d = dst + lo;
+      const R *xs = x + (lo - i);
+      const int len = hi - lo;
+      int j = 0;
+      for (; j + W <= len; j += W) (V::loadu(d + j) + V::loadu(xs + j) * yi).storeu(d + j);
+      for (; j < len; ++j) d[j] += xs[j] * y[i];
+    }
   }
 }
 

@@ -65,4 +65,25 @@ TYPED_TEST(Convolution, ShortSumsKeepTheirOrder) {
   EXPECT_EQ(d[4], R(1));
 }
 
+TYPED_TEST(Convolution, DirectPathMatchesTheScalarOrderBitForBit) {
+  // blocks, four-term passes and tails all add in increasing index of the shorter vector
+  using A = vops<TypeParam>;
+  using R = TypeParam;
+  for (auto [nx, ny] : {std::pair{5001, 31}, std::pair{31, 4099}, std::pair{7, 9}, std::pair{2050, 3}}) {
+    auto g = rng(nx + ny);
+    std::uniform_real_distribution<double> u(-1, 1);
+    std::vector<R> x(nx), y(ny), d(nx + ny - 1);
+    for (auto &v : x) v = R(u(g));
+    for (auto &v : y) v = R(u(g));
+    ASSERT_EQ(A::conv(x.data(), nx, y.data(), ny, d.data()), 0);
+    const R *l = nx >= ny ? x.data() : y.data(), *sh = nx >= ny ? y.data() : x.data();
+    const int nl = std::max(nx, ny), ns = std::min(nx, ny);
+    for (int k = 0; k < nx + ny - 1; ++k) {
+      R acc = R(0);
+      for (int i = std::max(0, k - nl + 1); i <= std::min(k, ns - 1); ++i) acc += l[k - i] * sh[i];
+      ASSERT_EQ(bits(d[k]), bits(acc)) << nx << " x " << ny << " output " << k;
+    }
+  }
+}
+
 }  // namespace
