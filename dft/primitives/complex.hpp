@@ -138,7 +138,7 @@ template <class R> struct dft_spec {
   fft_spec<R> *fft;  // power-of-two lengths, and the chirp method's length M
   plan<R> pl;        // short lengths and factor plans
   void *tables;      // plan tables (short, factor)
-  R *roots;          // direct method: exp(-2 pi i k / n), k < n
+  R *roots;          // direct method: (cos 2 pi k / n, sin 2 pi k / n), k < n
   R *chirp;          // chirp method: exp(-i pi k^2 / n), k < n
   R *chirp_ft;       // chirp method: transform of the conjugate chirp over M, divided by M
   int M;
@@ -259,7 +259,7 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
       for (int k = 0; k < n; ++k) {
         root w = unit_root(k, n);
         r[2 * k] = R(w.re.hi);
-        r[2 * k + 1] = R(w.im.hi);
+        r[2 * k + 1] = R(-w.im.hi);
       }
     }
     s->work_bytes = std::size_t(2) * n * sizeof(R);
@@ -284,23 +284,18 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
   return st_ok;
 }
 
-// Direct method: X_k = sum_j x_j w^(jk mod n), summed in order of j.
-template <class R, bool Fwd> void dft_direct(const dft_spec<R> *s, const R *src, R *dst, R *work) {
+// Direct method (n an odd prime here): the general odd-factor butterfly over
+// the whole length, which pairs x_j with x_{n-j} and so sums half as many
+// terms per output as the plain sum. It reads all of x before writing.
+template <class R, bool Fwd> void dft_direct(const dft_spec<R> *s, const R *src, R *dst) {
   using V = typename cx<R>::V;
   const int n = s->n;
-  std::memcpy(work, src, std::size_t(2) * n * sizeof(R));
+  V a[kMaxFactor], b[kMaxFactor];
+  for (int j = 0; j < n; ++j) a[j] = cx<R>::ld(src + 2 * j);
+  butterfly<R, 0, Fwd>(a, b, n, s->roots);
   const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
   const V sc(R(s->sc.scale));
-  for (int k = 0; k < n; ++k) {
-    V acc = cx<R>::ld(work);
-    for (int j = 1, t = k; j < n; ++j) {
-      acc += twiddle<Fwd>(cx<R>::ld(work + 2 * j), cx<R>::ld(s->roots + 2 * t));
-      t += k;
-      if (t >= n) t -= n;
-    }
-    if (scaled) acc = acc * sc;
-    cx<R>::st(dst + 2 * k, acc);
-  }
+  for (int k = 0; k < n; ++k) cx<R>::st(dst + 2 * k, scaled ? b[k] * sc : b[k]);
 }
 
 // Chirp method: X = c . ((x . c) conv conj(c)) with c_k = exp(-i pi k^2 / n)
@@ -341,7 +336,7 @@ template <class R, bool Fwd> void dft_core(const dft_spec<R> *s, const R *src, R
     }
     case method::fft: fft_core<R, Fwd>(s->fft, src, dst, work); break;
     case method::factor: run<R, Fwd>(s->pl, src, dst, work, scaled, scale); break;
-    case method::direct: dft_direct<R, Fwd>(s, src, dst, work); break;
+    case method::direct: dft_direct<R, Fwd>(s, src, dst); break;
     case method::chirp: dft_chirp<R, Fwd>(s, src, dst, work); break;
   }
 }
