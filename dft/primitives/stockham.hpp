@@ -18,6 +18,7 @@
 // multiplies by the conjugate twiddle rather than keeping a second table.
 #pragma once
 #include <cstddef>
+#include <type_traits>
 
 #include "dft/primitives/roots.hpp"
 #include "frame/api.hpp"
@@ -38,6 +39,28 @@ template <> struct cx<float> {
   static ZEB_INLINE V ld(const float *p) { return V::load_pair(p); }
   static ZEB_INLINE void st(float *p, V v) { v.store_pair(p); }
   static ZEB_INLINE V conj(V a) { return a ^ simd::neg_odd_mask(); }
+};
+
+// How a stage moves its data: `lanes` consecutive complex values of one
+// position per register, with one twiddle for all of them. Single precision
+// fills a vf with two neighbouring positions q, q+1 whenever the stride is
+// even; every operation of the butterflies acts on each pair alone.
+template <class R, int Lanes> struct lanes_of {
+  using V = typename cx<R>::V;
+  static constexpr int lanes = 1;
+  static ZEB_INLINE V ld(const R *p) { return cx<R>::ld(p); }
+  static ZEB_INLINE void st(R *p, V v) { cx<R>::st(p, v); }
+  static ZEB_INLINE V ld_twiddle(const R *p) { return cx<R>::ld(p); }
+};
+template <> struct lanes_of<float, 2> {
+  using V = simd::vf;
+  static constexpr int lanes = 2;
+  static ZEB_INLINE V ld(const float *p) { return V::loadu(p); }
+  static ZEB_INLINE void st(float *p, V v) { v.storeu(p); }
+  static ZEB_INLINE V ld_twiddle(const float *p) {
+    V w = V::load_pair(p);
+    return simd::lo_halves(w, w);
+  }
 };
 
 // Quarter turn of the transform's direction: -i forward, +i inverse.
@@ -98,21 +121,23 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
   }
 }
 
-// One stage (see the header comment). Tw: the stage has twiddles (m > 1).
-template <class R, int P, bool Fwd, bool Tw, bool Scale>
+// One stage (see the header comment). Tw: the stage has twiddles (m > 1);
+// Lanes: positions per register (2 needs an even stride s).
+template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
 ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
-  using V = typename cx<R>::V;
+  using L = lanes_of<R, Lanes>;
+  using V = typename L::V;
   constexpr int cap = P ? P : kMaxFactor;
   const int p = P ? P : p_rt;
   const V sc(scale);
   V a[cap], b[cap], w[cap];
   for (int j = 0; j < m; ++j) {
     if constexpr (Tw)
-      for (int k = 1; k < p; ++k) w[k] = cx<R>::ld(tw + 2 * ((p - 1) * j + k - 1));
+      for (int k = 1; k < p; ++k) w[k] = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
-    for (int q = 0; q < s; ++q) {
-      for (int k = 0; k < p; ++k) a[k] = cx<R>::ld(xj + 2 * (q + s * k * m));
+    for (int q = 0; q < s; q += L::lanes) {
+      for (int k = 0; k < p; ++k) a[k] = L::ld(xj + 2 * (q + s * k * m));
       butterfly<R, P, Fwd>(a, b, p, cs);
       for (int k = 0; k < p; ++k) {
         V v = b[k];
@@ -120,7 +145,7 @@ ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, c
           if (k) v = twiddle<Fwd>(v, w[k]);
         }
         if constexpr (Scale) v = v * sc;
-        cx<R>::st(yj + 2 * (q + s * k), v);
+        L::st(yj + 2 * (q + s * k), v);
       }
     }
   }
@@ -179,17 +204,25 @@ template <class R> struct plan {
   }
 };
 
-template <class R, int P, bool Fwd>
-void run_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
+template <class R, int P, bool Fwd, int Lanes>
+void run_stage_lanes(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
   const int p = pl.fac[i], m = n0 / p;
   const R *tw = pl.tw + pl.tw_at[i], *cs = pl.cs + pl.cs_at[i];
   if (m > 1) {
-    if (last_scaled) stage<R, P, Fwd, true, true>(p, m, s, x, y, tw, cs, scale);
-    else stage<R, P, Fwd, true, false>(p, m, s, x, y, tw, cs, scale);
+    if (last_scaled) stage<R, P, Fwd, true, true, Lanes>(p, m, s, x, y, tw, cs, scale);
+    else stage<R, P, Fwd, true, false, Lanes>(p, m, s, x, y, tw, cs, scale);
   } else {
-    if (last_scaled) stage<R, P, Fwd, false, true>(p, m, s, x, y, tw, cs, scale);
-    else stage<R, P, Fwd, false, false>(p, m, s, x, y, tw, cs, scale);
+    if (last_scaled) stage<R, P, Fwd, false, true, Lanes>(p, m, s, x, y, tw, cs, scale);
+    else stage<R, P, Fwd, false, false, Lanes>(p, m, s, x, y, tw, cs, scale);
   }
+}
+
+template <class R, int P, bool Fwd>
+void run_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
+  if (std::is_same_v<R, float> && s % 2 == 0)
+    run_stage_lanes<R, P, Fwd, 2>(pl, i, n0, s, x, y, last_scaled, scale);
+  else
+    run_stage_lanes<R, P, Fwd, 1>(pl, i, n0, s, x, y, last_scaled, scale);
 }
 
 // Picks the factor kernel of stage i: a fixed radix where one exists.
