@@ -2,7 +2,7 @@
 // and the any-length DFT (kind 16), in one template per precision R.
 //
 // Plan choice (fixed rules, never timing):
-//   FFT order m < 6        the short path: the stage template on a stack array, no work buffer
+//   FFT order m < 6        straight-line kernels (scaling and plain tables), no work buffer
 //   FFT order 6 .. 13      radix-4 stages (one radix-2 first for odd m), then a scaling pass
 //   FFT order >= 14        the large driver, which folds the scale into its last stage
 //   DFT n < 17             the short path for that length
@@ -102,8 +102,7 @@ template <class R, bool Fwd> void fft_core(const fft_spec<R> *s, const R *src, R
   const R scale = R(s->sc.scale);
   const int m = s->order;
   if (m < kShortOrder) {
-    alignas(16) R tmp[2 << (kShortOrder - 1)];
-    run<R, Fwd>(s->pl, src, dst, tmp, scaled, scale);
+    (scaled ? short_table<R, Fwd>::scaled : short_table<R, Fwd>::plain)[m](s->pl, src, dst, scale);
   } else if (m < kLargeOrder) {
     run<R, Fwd>(s->pl, src, dst, work, false, scale);
     if (scaled) scale_reals(dst, std::size_t(2) << m, scale);

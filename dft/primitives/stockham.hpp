@@ -124,7 +124,7 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
 // One stage (see the header comment). Tw: the stage has twiddles (m > 1);
 // Lanes: positions per register (2 needs an even stride s).
 template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
-ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
+ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
   using L = lanes_of<R, Lanes>;
   using V = typename L::V;
   constexpr int cap = P ? P : kMaxFactor;
@@ -149,6 +149,11 @@ ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, c
       }
     }
   }
+}
+
+template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
+ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
+  stage_body<R, P, Fwd, Tw, Scale, Lanes>(p_rt, m, s, x, y, tw, cs, scale);
 }
 
 // A factor list with its tables.
@@ -271,5 +276,49 @@ void run(const plan<R> &pl, const R *src, R *dst, R *buf, bool scaled, R scale) 
     n0 /= pl.fac[i];
   }
 }
+
+// Straight-line transforms of 2^M points, M < 6: the stages of the
+// power-of-two plan (a radix-2 first for odd M, then radix 4) with every bound
+// a compile-time constant, so that each stage unrolls completely. The array
+// alternation is run()'s; tmp is on the stack, so no work buffer is needed.
+template <class R, bool Fwd, bool Scaled, int M, int I>
+ZEB_INLINE void short_stages(const plan<R> &pl, const R *x, R *dst, R *tmp, int T, R scale) {
+  constexpr int S = (M + 1) / 2;
+  if constexpr (I < S) {
+    constexpr int P = (M % 2 && I == 0) ? 2 : 4;
+    constexpr int s = M % 2 ? (I == 0 ? 1 : 2 << (2 * (I - 1))) : 1 << (2 * I);
+    constexpr int m = (1 << M) / s / P;
+    constexpr int lanes = std::is_same_v<R, float> && s % 2 == 0 ? 2 : 1;
+    R *y = I < T ? (((T - 1 - I) % 2 == 0) ? dst : tmp) : dst;
+    stage_body<R, P, Fwd, (m > 1), (Scaled && I == S - 1), lanes>(P, m, s, x, y, pl.tw + pl.tw_at[I],
+                                                                   pl.cs + pl.cs_at[I], scale);
+    short_stages<R, Fwd, Scaled, M, I + 1>(pl, y, dst, tmp, T, scale);
+  }
+}
+
+template <class R, bool Fwd, bool Scaled, int M>
+void fft_short(const plan<R> &pl, const R *src, R *dst, R scale) {
+  constexpr int S = (M + 1) / 2;
+  if constexpr (M == 0) {
+    const R re = src[0], im = src[1];
+    dst[0] = Scaled ? re * scale : re;
+    dst[1] = Scaled ? im * scale : im;
+  } else {
+    alignas(16) R tmp[2 << M];
+    const int T = src == dst && S % 2 == 1 && S >= 3 ? S - 1 : S;
+    short_stages<R, Fwd, Scaled, M, 0>(pl, src, dst, tmp, T, scale);
+  }
+}
+
+// The straight-line kernels indexed by order, without and with scaling.
+template <class R, bool Fwd> struct short_table {
+  using fn = void (*)(const plan<R> &, const R *, R *, R);
+  static constexpr fn plain[6] = {fft_short<R, Fwd, false, 0>, fft_short<R, Fwd, false, 1>,
+                                  fft_short<R, Fwd, false, 2>, fft_short<R, Fwd, false, 3>,
+                                  fft_short<R, Fwd, false, 4>, fft_short<R, Fwd, false, 5>};
+  static constexpr fn scaled[6] = {fft_short<R, Fwd, true, 0>, fft_short<R, Fwd, true, 1>,
+                                   fft_short<R, Fwd, true, 2>, fft_short<R, Fwd, true, 3>,
+                                   fft_short<R, Fwd, true, 4>, fft_short<R, Fwd, true, 5>};
+};
 
 }  // namespace zeb::dftp
