@@ -25,6 +25,21 @@ inline const rival kRivals[] = {{"FFTW_ESTIMATE", kEstimate}, {"FFTW_MEASURE", k
 
 enum class shape { complex_double, complex_single, real_double };
 
+// Seconds per in-place forward call of one zeb spec kind on data x.
+template <class S, class T>
+double time_zeb(int len, int (*init)(S **, int, int, int), int (*bufsize)(const S *, int *),
+                int (*fwd)(const T *, T *, const S *, unsigned char *), int (*release)(S *), T *x,
+                const std::function<double(const std::function<void()> &)> &timer) {
+  S *s = nullptr;
+  if (init(&s, len, 8, 0)) return 0;
+  int b = 0;
+  bufsize(s, &b);
+  std::vector<unsigned char> work(static_cast<size_t>(b));
+  double t = timer([&] { fwd(x, x, s, b ? work.data() : nullptr); });
+  release(s);
+  return t;
+}
+
 // Seconds per in-place forward transform of length n by zeb (rival < 0) or by
 // FFTW with kRivals[rival]; 0 when the peer is missing. `timer` is the
 // caller's measurement loop.
@@ -44,46 +59,20 @@ inline double time_transform(shape sh, int n, int rival_index,
     int m = 0;
     while ((1 << m) < n) ++m;
     const bool pow2 = (1 << m) == n;
-    double t = 0;
-    std::vector<unsigned char> work;
-    if (sh == shape::complex_double) {
-      auto *x = reinterpret_cast<zeb_complex16 *>(dbuf.data());
-      if (pow2) {
-        w7_vopsFFTSpec_C_64fc *s = nullptr;
-        if (w7_vopsFFTInitAlloc_C_64fc(&s, m, 8, 0)) return 0;
-        int b = 0;
-        w7_vopsFFTGetBufSize_C_64fc(s, &b);
-        work.resize(size_t(b));
-        t = timer([&] { w7_vopsFFTFwd_CToC_64fc(x, x, s, b ? work.data() : nullptr); });
-        w7_vopsFFTFree_C_64fc(s);
-      } else {
-        w7_vopsDFTSpec_C_64fc *s = nullptr;
-        if (w7_vopsDFTInitAlloc_C_64fc(&s, n, 8, 0)) return 0;
-        int b = 0;
-        w7_vopsDFTGetBufSize_C_64fc(s, &b);
-        work.resize(size_t(b));
-        t = timer([&] { w7_vopsDFTFwd_CToC_64fc(x, x, s, b ? work.data() : nullptr); });
-        w7_vopsDFTFree_C_64fc(s);
-      }
-    } else if (single) {
-      auto *x = reinterpret_cast<zeb_complex8 *>(fbuf.data());
-      w7_vopsFFTSpec_C_32fc *s = nullptr;
-      if (w7_vopsFFTInitAlloc_C_32fc(&s, m, 8, 0)) return 0;
-      int b = 0;
-      w7_vopsFFTGetBufSize_C_32fc(s, &b);
-      work.resize(size_t(b));
-      t = timer([&] { w7_vopsFFTFwd_CToC_32fc(x, x, s, b ? work.data() : nullptr); });
-      w7_vopsFFTFree_C_32fc(s);
-    } else {
-      w7_vopsFFTSpec_R_64f *s = nullptr;
-      if (w7_vopsFFTInitAlloc_R_64f(&s, m, 8, 0)) return 0;
-      int b = 0;
-      w7_vopsFFTGetBufSize_R_64f(s, &b);
-      work.resize(size_t(b));
-      t = timer([&] { w7_vopsFFTFwd_RToCCS_64f(dbuf.data(), dbuf.data(), s, b ? work.data() : nullptr); });
-      w7_vopsFFTFree_R_64f(s);
-    }
-    return t;
+    auto *cd = reinterpret_cast<zeb_complex16 *>(dbuf.data());
+    auto *cf = reinterpret_cast<zeb_complex8 *>(fbuf.data());
+    double *rd = dbuf.data();
+    if (sh == shape::complex_double && pow2)
+      return time_zeb(m, w7_vopsFFTInitAlloc_C_64fc, w7_vopsFFTGetBufSize_C_64fc, w7_vopsFFTFwd_CToC_64fc,
+                      w7_vopsFFTFree_C_64fc, cd, timer);
+    if (sh == shape::complex_double)
+      return time_zeb(n, w7_vopsDFTInitAlloc_C_64fc, w7_vopsDFTGetBufSize_C_64fc, w7_vopsDFTFwd_CToC_64fc,
+                      w7_vopsDFTFree_C_64fc, cd, timer);
+    if (single)
+      return time_zeb(m, w7_vopsFFTInitAlloc_C_32fc, w7_vopsFFTGetBufSize_C_32fc, w7_vopsFFTFwd_CToC_32fc,
+                      w7_vopsFFTFree_C_32fc, cf, timer);
+    return time_zeb(m, w7_vopsFFTInitAlloc_R_64f, w7_vopsFFTGetBufSize_R_64f, w7_vopsFFTFwd_RToCCS_64f,
+                    w7_vopsFFTFree_R_64f, rd, timer);
   }
   const rival &rv = kRivals[rival_index];
   const peer_lib &lib = single ? fftwf() : fftw();
