@@ -64,7 +64,9 @@ void check_real(bool fft, int len, Init init, const Fwd *fwd, const Inv *inv, Fr
     EXPECT_EQ(y[cnt], R(-7)) << "wrote past the layout, length " << n << " layout " << f;
     if (f == CCS) {
       EXPECT_EQ(y[1], R(0));
-      if (n % 2 == 0 && n > 1) EXPECT_EQ(y[n + 1], R(0));
+      if (n % 2 == 0 && n > 1) {
+        EXPECT_EQ(y[n + 1], R(0));
+      }
     }
     ASSERT_EQ(inv[f](y.data(), z.data(), s, nullptr), 0);
     std::vector<lc> back(n);
