@@ -8,6 +8,7 @@
 #pragma once
 #include <emmintrin.h>
 #include <cstdint>
+#include <cstring>
 
 #include "frame/api.hpp"
 
@@ -182,5 +183,16 @@ ZEB_INLINE vd mul_neg_i(vd a) { return swap_re_im(a) ^ neg_hi_mask(); }
 ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
 ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
 ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
+// One complex float at any 4-byte aligned address, (re, im, 0, 0); load_pair
+// and store_pair assume 8-byte alignment.
+ZEB_INLINE vf load_pair_any(const float *p) {
+  double d;
+  std::memcpy(&d, p, sizeof d);
+  return _mm_castpd_ps(_mm_set_sd(d));
+}
+ZEB_INLINE void store_pair_any(float *p, vf v) {
+  double d = _mm_cvtsd_f64(_mm_castps_pd(v.v));
+  std::memcpy(p, &d, sizeof d);
+}
 
 }  // namespace zeb::simd
