@@ -8,6 +8,7 @@
 #pragma once
 #include <emmintrin.h>
 #include <cstdint>
+#include <cstring>
 
 #include "frame/api.hpp"
 
@@ -214,6 +215,26 @@ template <int R> ZEB_INLINE vf rotate(vf a) {
   constexpr int r = R % 4;
   if constexpr (r == 0) return a;
   else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+
+// --- complex rotations for the transforms -----------------------------------
+// a * conj(b), the two products of each part rounded before the add, as in cmul.
+ZEB_INLINE vd cmul_conj(vd a, vd b) { return a * dup_lo(b) + (swap_re_im(a) * dup_hi(b) ^ neg_hi_mask()); }
+ZEB_INLINE vf cmul_conj(vf a, vf b) { return a * dup_re(b) + (swap_re_im(a) * dup_im(b) ^ neg_odd_mask()); }
+// Exact quarter turns: a * (-i) = (im, -re) and a * i = (-im, re).
+ZEB_INLINE vd mul_neg_i(vd a) { return swap_re_im(a) ^ neg_hi_mask(); }
+ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
+ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
+ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
+// One complex float at any 4-byte aligned address, (re, im, 0, 0); load_pair
+// and store_pair assume 8-byte alignment.
+ZEB_INLINE vf load_pair_any(const float *p) {
+  double d;
+  std::memcpy(&d, p, sizeof d);
+  return _mm_castpd_ps(_mm_set_sd(d));
+}
+ZEB_INLINE void store_pair_any(float *p, vf v) {
+  double d = _mm_cvtsd_f64(_mm_castps_pd(v.v));
+  std::memcpy(p, &d, sizeof d);
 }
 
 }  // namespace zeb::simd

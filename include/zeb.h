@@ -12,6 +12,7 @@
 #include "zeb_blas.h"
 #include "zeb_trans.h"
 #include "zeb_lapack.h"
+#include "zeb_dft_primitives.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

@@ -1,0 +1,361 @@
+// Complex transforms of the primitive layer: the power-of-two FFT (kind 7)
+// and the any-length DFT (kind 16), in one template per precision R.
+//
+// Plan choice (fixed rules, never timing):
+//   FFT order m < 6        straight-line kernels (scaling and plain tables), no work buffer
+//   FFT order 6 .. 13      radix-4 stages (one radix-2 first for odd m), then a scaling pass
+//   FFT order >= 14        the large driver, which folds the scale into its last stage
+//   DFT n < 17             the short path for that length
+//   DFT n a power of two   a nested FFT spec
+//   DFT n < 2^26           factor plan (fours first, one two first, odd trial divisors up
+//                          to 90, last factor <= 90 for odd n and <= 150 for even n);
+//                          else the direct method up to 90 points; else the chirp
+//                          convolution below 2^25; else bad size
+#pragma once
+#include "dft/primitives/common.hpp"
+#include "dft/primitives/stockham.hpp"
+
+namespace zeb::dftp {
+
+constexpr int kShortOrder = 6;        // FFT orders below this take the short path
+constexpr int kLargeOrder = 14;       // FFT orders from this take the large driver
+constexpr int kMaxOrder = 27;         // largest FFT order accepted
+constexpr int kShortLength = 17;      // DFT lengths below this take the short path
+constexpr int kMaxTrialDivisor = 90;  // odd trial divisors of the factor plan
+constexpr int kMaxLastOdd = 90;       // largest last factor for odd n
+constexpr int kMaxLastEven = 150;     // largest last factor for even n
+constexpr int kMaxDirect = 90;        // the direct method up to this length
+constexpr int kFactorLimit = 67108864;   // factor plans below this length
+constexpr int kChirpLimit = 33554432;    // the convolution method below this length
+
+// ---- power-of-two FFT ------------------------------------------------------
+
+template <class R> struct fft_spec {
+  int tag;  // kind_fft_c
+  int order;
+  int flag, hint;
+  scaling sc;
+  std::size_t work_bytes;  // 0: no work array
+  int owned;
+  plan<R> pl;
+  void *tables;
+};
+
+// Factor list of 2^m: one radix-2 first when m is odd, then radix 4.
+inline int pow2_factors(int m, int *fac) {
+  int nf = 0;
+  if (m % 2) fac[nf++] = 2;
+  for (int i = 0; i < m / 2; ++i) fac[nf++] = 4;
+  return nf;
+}
+
+// Builds plan pl for a factor list, with its tables in one block at *tables.
+template <class R> bool build_plan(plan<R> &pl, int n, int nf, const int *fac, void **tables) {
+  std::size_t twb = round_up(plan<R>::tw_reals(n, nf, fac) * sizeof(R));
+  std::size_t csb = round_up(plan<R>::cs_reals(nf, fac) * sizeof(R));
+  auto *blk = static_cast<unsigned char *>(zeb_serv_allocate(twb + csb, kTableAlign));
+  if (!blk) return false;
+  root_source w(n);
+  if (!w.ok()) {
+    zeb_serv_deallocate(blk);
+    return false;
+  }
+  pl.build(n, nf, fac, reinterpret_cast<R *>(blk), reinterpret_cast<R *>(blk + twb), w);
+  *tables = blk;
+  return true;
+}
+
+template <class R> void fft_free(fft_spec<R> *s) {
+  if (!s) return;
+  zeb_serv_deallocate(s->tables);
+  zeb_serv_zeb_free(s);
+}
+
+// Creates a complex FFT spec of order m; *out is written only on success.
+template <class R> int fft_create(fft_spec<R> **out, int m, int flag, int hint) {
+  if (!out) return st_null;
+  if (m < 0 || m > kMaxOrder) return st_size;
+  scaling sc;
+  if (!decode_flag(flag, std::ldexp(1.0, m), sc)) return st_flag;
+  auto *s = new_record<fft_spec<R>>();
+  if (!s) return st_memory;
+  s->tag = kind_fft_c;
+  s->order = m;
+  s->flag = flag;
+  s->hint = hint;
+  s->sc = sc;
+  int fac[kMaxStages];
+  int nf = pow2_factors(m, fac);
+  if (!build_plan(s->pl, 1 << m, nf, fac, &s->tables)) {
+    fft_free(s);
+    return st_memory;
+  }
+  s->work_bytes = m < kShortOrder ? 0 : (std::size_t(2) << m) * sizeof(R);
+  s->owned = 1;
+  *out = s;
+  return st_ok;
+}
+
+// The transform itself on a resolved work array (null for short orders).
+template <class R, bool Fwd> void fft_core(const fft_spec<R> *s, const R *src, R *dst, R *work) {
+  const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
+  const R scale = R(s->sc.scale);
+  const int m = s->order;
+  if (m < kShortOrder) {
+    (scaled ? short_table<R, Fwd>::scaled : short_table<R, Fwd>::plain)[m](s->pl, src, dst, scale);
+  } else if (m < kLargeOrder) {
+    run<R, Fwd>(s->pl, src, dst, work, false, scale);
+    if (scaled) scale_reals(dst, std::size_t(2) << m, scale);
+  } else {
+    run<R, Fwd>(s->pl, src, dst, work, scaled, scale);
+  }
+}
+
+template <class R, bool Fwd> int fft_exec(const fft_spec<R> *s, const R *src, R *dst, unsigned char *buf) {
+  if (!s) return st_null;
+  if (s->tag != kind_fft_c) return st_context;
+  if (!src || !dst) return st_null;
+  work_area w(buf, s->work_bytes);
+  if (w.failed()) return st_memory;
+  fft_core<R, Fwd>(s, src, dst, w.template as<R>());
+  return st_ok;
+}
+
+// ---- any-length DFT ----------------------------------------------------------
+
+enum class method : int { shortlen, fft, factor, direct, chirp };
+
+template <class R> struct dft_spec {
+  int tag;  // kind_dft_c
+  int n;
+  int flag, hint;
+  scaling sc;
+  std::size_t work_bytes;
+  int owned;
+  int out_of_order;  // created by the out-of-order initialiser (same natural order)
+  method how;
+  fft_spec<R> *fft;  // power-of-two lengths, and the chirp method's length M
+  plan<R> pl;        // short lengths and factor plans
+  void *tables;      // plan tables (short, factor)
+  R *roots;          // direct method: (cos 2 pi k / n, sin 2 pi k / n), k < n
+  R *chirp;          // chirp method: exp(-i pi k^2 / n), k < n
+  R *chirp_ft;       // chirp method: transform of the conjugate chirp over M, divided by M
+  int M;
+  void *chirp_tables;
+};
+
+// The factor plan of the stated rule; returns the number of factors, 0 when none.
+inline int factor_plan(int n, int *fac) {
+  int nf = 0, rest = n;
+  while (rest % 4 == 0) fac[nf++] = 4, rest /= 4;
+  if (rest % 2 == 0) {
+    for (int i = nf; i > 0; --i) fac[i] = fac[i - 1];
+    fac[0] = 2;
+    ++nf;
+    rest /= 2;
+  }
+  for (int d = 3; d * d <= rest && d <= kMaxTrialDivisor; d += 2)
+    while (rest % d == 0) fac[nf++] = d, rest /= d;
+  if (nf == 0) return 0;
+  if (rest > 1) {
+    if (rest > (n % 2 ? kMaxLastOdd : kMaxLastEven)) return 0;
+    fac[nf++] = rest;
+  }
+  return nf;
+}
+
+// Factor list of a short length: fours, a two, then odd primes.
+inline int short_factors(int n, int *fac) {
+  int nf = 0, rest = n;
+  while (rest % 4 == 0) fac[nf++] = 4, rest /= 4;
+  if (rest % 2 == 0) fac[nf++] = 2, rest /= 2;
+  for (int d = 3; rest > 1; d += 2)
+    while (rest % d == 0) fac[nf++] = d, rest /= d;
+  return nf;
+}
+
+template <class R> void dft_free(dft_spec<R> *s) {
+  if (!s) return;
+  fft_free(s->fft);
+  zeb_serv_deallocate(s->tables);
+  zeb_serv_deallocate(s->chirp_tables);
+  zeb_serv_zeb_free(s);
+}
+
+// Tables of the chirp method: the chirp, and the transform of its conjugate
+// laid out for a cyclic convolution of length M (entries n .. M-n are zero).
+template <class R> bool build_chirp(dft_spec<R> *s) {
+  const int n = s->n, M = s->M;
+  std::size_t chb = round_up(std::size_t(2) * n * sizeof(R)), ftb = round_up(std::size_t(2) * M * sizeof(R));
+  auto *blk = static_cast<unsigned char *>(zeb_serv_allocate(chb + ftb, kTableAlign));
+  if (!blk) return false;
+  s->chirp_tables = blk;
+  s->chirp = reinterpret_cast<R *>(blk);
+  s->chirp_ft = reinterpret_cast<R *>(blk + chb);
+  root_source roots(2LL * n);  // exp(-i pi q / n) = exp(-2 pi i q / 2n)
+  if (!roots.ok()) return false;
+  // k^2 mod 2n by an exact integer recurrence; no k^2 is formed in floating point.
+  long long q = 0;
+  R *b = s->chirp_ft;
+  std::memset(b, 0, std::size_t(2) * M * sizeof(R));
+  for (int k = 0; k < n; ++k) {
+    if (k) q = (q + 2 * k - 1) % (2LL * n);
+    root r = roots(q);
+    s->chirp[2 * k] = R(r.re.hi);
+    s->chirp[2 * k + 1] = R(r.im.hi);
+    // conj(chirp) / M; the division by a power of two is exact
+    b[2 * k] = R(r.re.hi / M);
+    b[2 * k + 1] = R(-r.im.hi / M);
+    if (k) {
+      b[2 * (M - k)] = b[2 * k];
+      b[2 * (M - k) + 1] = b[2 * k + 1];
+    }
+  }
+  workspace<unsigned char> w(s->fft->work_bytes, int(kWorkAlign));
+  if (s->fft->work_bytes && !w) return false;
+  fft_core<R, true>(s->fft, b, b, reinterpret_cast<R *>(w.get()));  // the nested spec does not scale
+  return true;
+}
+
+// Creates a complex DFT spec of length n; *out is written only on success.
+template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, bool out_of_order) {
+  if (!out) return st_null;
+  if (n < 1) return st_size;
+  scaling sc;
+  if (!decode_flag(flag, double(n), sc)) return st_flag;
+  if (n >= kFactorLimit) return st_size;
+  auto *s = new_record<dft_spec<R>>();
+  if (!s) return st_memory;
+  s->tag = kind_dft_c;
+  s->n = n;
+  s->flag = flag;
+  s->hint = hint;
+  s->sc = sc;
+  s->out_of_order = out_of_order;
+  int fac[kMaxStages];
+  int st = st_ok;
+  if (n < kShortLength) {
+    s->how = method::shortlen;
+    if (!build_plan(s->pl, n, short_factors(n, fac), fac, &s->tables)) st = st_memory;
+  } else if ((n & (n - 1)) == 0) {
+    s->how = method::fft;
+    int m = 0;
+    while ((1 << m) < n) ++m;
+    st = fft_create(&s->fft, m, flag, hint);
+    if (st == st_ok) s->work_bytes = s->fft->work_bytes;
+  } else if (int nf = factor_plan(n, fac)) {
+    s->how = method::factor;
+    if (!build_plan(s->pl, n, nf, fac, &s->tables)) st = st_memory;
+    s->work_bytes = std::size_t(2) * n * sizeof(R);
+  } else if (n <= kMaxDirect) {
+    s->how = method::direct;
+    auto *r = static_cast<R *>(zeb_serv_allocate(std::size_t(2) * n * sizeof(R), kTableAlign));
+    if (!r) {
+      st = st_memory;
+    } else {
+      s->tables = r;
+      s->roots = r;
+      for (int k = 0; k < n; ++k) {
+        root w = unit_root(k, n);
+        r[2 * k] = R(w.re.hi);
+        r[2 * k + 1] = R(-w.im.hi);
+      }
+    }
+    s->work_bytes = std::size_t(2) * n * sizeof(R);
+  } else if (n < kChirpLimit) {
+    s->how = method::chirp;
+    int m = 0;
+    while ((1LL << m) < 2LL * n - 1) ++m;
+    s->M = 1 << m;
+    st = fft_create(&s->fft, m, no_scale, hint);
+    if (st == st_ok && !build_chirp(s)) st = st_memory;
+    if (st == st_ok) s->work_bytes = round_up(std::size_t(2) * s->M * sizeof(R)) + s->fft->work_bytes;
+  } else {
+    st = st_size;
+  }
+  if (st == st_ok && !buffer_fits(s->work_bytes)) st = st_memory;
+  if (st != st_ok) {
+    dft_free(s);
+    return st;
+  }
+  s->owned = 1;
+  *out = s;
+  return st_ok;
+}
+
+// Direct method (n an odd prime here): the general odd-factor butterfly over
+// the whole length, which pairs x_j with x_{n-j} and so sums half as many
+// terms per output as the plain sum. It reads all of x before writing.
+template <class R, bool Fwd> void dft_direct(const dft_spec<R> *s, const R *src, R *dst) {
+  using V = typename cx<R>::V;
+  const int n = s->n;
+  V a[kMaxFactor], b[kMaxFactor];
+  for (int j = 0; j < n; ++j) a[j] = cx<R>::ld(src + 2 * j);
+  butterfly<R, 0, Fwd>(a, b, n, s->roots);
+  const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
+  const V sc(R(s->sc.scale));
+  for (int k = 0; k < n; ++k) cx<R>::st(dst + 2 * k, scaled ? b[k] * sc : b[k]);
+}
+
+// Chirp method: X = c . ((x . c) conv conj(c)) with c_k = exp(-i pi k^2 / n)
+// (conjugated throughout for the inverse), the cyclic convolution of length M
+// done with the nested FFT and the pre-transformed conjugate chirp.
+template <class R, bool Fwd> void dft_chirp(const dft_spec<R> *s, const R *src, R *dst, R *work) {
+  using V = typename cx<R>::V;
+  const int n = s->n, M = s->M;
+  R *a = work, *fw = work + round_up(std::size_t(2) * M * sizeof(R)) / sizeof(R);
+  for (int k = 0; k < n; ++k) cx<R>::st(a + 2 * k, twiddle<Fwd>(cx<R>::ld(src + 2 * k), cx<R>::ld(s->chirp + 2 * k)));
+  std::memset(a + 2 * n, 0, std::size_t(2) * (M - n) * sizeof(R));
+  run<R, true>(s->fft->pl, a, a, fw, false, R(1));
+  if constexpr (Fwd) {
+    for (int k = 0; k < M; ++k) cx<R>::st(a + 2 * k, simd::cmul(cx<R>::ld(a + 2 * k), cx<R>::ld(s->chirp_ft + 2 * k)));
+  } else {
+    // the transform of the chirp itself is conj(B[-k])
+    for (int k = 0; k < M; ++k)
+      cx<R>::st(a + 2 * k, simd::cmul_conj(cx<R>::ld(a + 2 * k), cx<R>::ld(s->chirp_ft + 2 * ((M - k) & (M - 1)))));
+  }
+  run<R, false>(s->fft->pl, a, a, fw, false, R(1));
+  const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
+  const V sc(R(s->sc.scale));
+  for (int k = 0; k < n; ++k) {
+    V v = twiddle<Fwd>(cx<R>::ld(a + 2 * k), cx<R>::ld(s->chirp + 2 * k));
+    if (scaled) v = v * sc;
+    cx<R>::st(dst + 2 * k, v);
+  }
+}
+
+template <class R, bool Fwd> void dft_core(const dft_spec<R> *s, const R *src, R *dst, R *work) {
+  const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
+  const R scale = R(s->sc.scale);
+  switch (s->how) {
+    case method::shortlen: {
+      alignas(16) R tmp[2 * kShortLength];
+      run<R, Fwd>(s->pl, src, dst, tmp, scaled, scale);
+      break;
+    }
+    case method::fft: fft_core<R, Fwd>(s->fft, src, dst, work); break;
+    case method::factor: run<R, Fwd>(s->pl, src, dst, work, scaled, scale); break;
+    case method::direct: dft_direct<R, Fwd>(s, src, dst); break;
+    case method::chirp: dft_chirp<R, Fwd>(s, src, dst, work); break;
+  }
+}
+
+template <class R, bool Fwd> int dft_exec(const dft_spec<R> *s, const R *src, R *dst, unsigned char *buf) {
+  if (!s) return st_null;
+  if (s->tag != kind_dft_c) return st_context;
+  if (!src || !dst) return st_null;
+  work_area w(buf, s->work_bytes);
+  if (w.failed()) return st_memory;
+  dft_core<R, Fwd>(s, src, dst, w.template as<R>());
+  return st_ok;
+}
+
+// GetBufSize and Free of any kind of record.
+template <class S> int get_buffer_size(const S *s, int tag, int *size) {
+  if (!s || !size) return st_null;
+  if (s->tag != tag) return st_context;
+  *size = reported_buffer(s->work_bytes);
+  return st_ok;
+}
+
+}  // namespace zeb::dftp

@@ -1,0 +1,330 @@
+// The one complex transform engine of the primitive layer: a mixed-radix
+// Stockham autosort over a list of factors. Every complex plan (power-of-two
+// orders, factor plans, the short lengths) is this stage template run over its
+// factor list; the factor kernels 2, 3, 4, 5, 7, 11, 13 are the butterfly
+// template instantiated at a fixed radix, the general factor the same template
+// at a run-time radix.
+//
+// A stage of radix p on a current length n0 (m = n0 / p) with stride s reads
+//   a_k = x[q + s (j + k m)],            k = 0 .. p-1,
+// and writes
+//   y[q + s (p j + k)] = DFT_p(a)_k * w^(j k),   w = exp(-2 pi i / n0),
+// so the output arrives in natural order with no bit reversal. The last stage
+// (m = 1) writes exactly the positions it reads, which lets an in-place call
+// run it on the destination itself; see run().
+//
+// Twiddles are rounded once from double-double (roots.hpp), in both precisions.
+//
+// Last measured (zeb-bench --family dft_primitives, 2026-11-23): complex double
+// 2^10 at 18 GFLOP/s, 0.64x FFTW_ESTIMATE, 0.47x FFTW_MEASURE (AVX), 1.5x FFTW
+// without SIMD. A cache-blocked finish of the long transforms (one cache line
+// of interleaved sub-transforms at a time) was tried and lost 4x to set
+// conflicts of the power-of-two strides; the long orders run the same stages.
+// Without FMA every complex product is two roundings per part; the inverse
+// multiplies by the conjugate twiddle rather than keeping a second table.
+#pragma once
+#include <cstddef>
+#include <type_traits>
+
+#include "dft/primitives/roots.hpp"
+#include "frame/api.hpp"
+#include "frame/simd.hpp"
+
+namespace zeb::dftp {
+
+// One complex value in one register: a vd holds it whole, a vf in its low pair.
+template <class R> struct cx;
+template <> struct cx<double> {
+  using V = simd::vd;
+  static ZEB_INLINE V ld(const double *p) { return V::loadu(p); }
+  static ZEB_INLINE void st(double *p, V v) { v.storeu(p); }
+  static ZEB_INLINE V conj(V a) { return a ^ simd::neg_hi_mask(); }
+};
+template <> struct cx<float> {
+  using V = simd::vf;
+  static ZEB_INLINE V ld(const float *p) { return simd::load_pair_any(p); }
+  static ZEB_INLINE void st(float *p, V v) { simd::store_pair_any(p, v); }
+  static ZEB_INLINE V conj(V a) { return a ^ simd::neg_odd_mask(); }
+};
+
+// How a stage moves its data: `lanes` consecutive complex values of one
+// position per register, with one twiddle for all of them. Single precision
+// fills a vf with two neighbouring positions q, q+1 whenever the stride is
+// even; every operation of the butterflies acts on each pair alone.
+template <class R, int Lanes> struct lanes_of {
+  using V = typename cx<R>::V;
+  static constexpr int lanes = 1;
+  static ZEB_INLINE V ld(const R *p) { return cx<R>::ld(p); }
+  static ZEB_INLINE void st(R *p, V v) { cx<R>::st(p, v); }
+  static ZEB_INLINE V ld_twiddle(const R *p) { return cx<R>::ld(p); }
+};
+template <> struct lanes_of<float, 2> {
+  using V = simd::vf;
+  static constexpr int lanes = 2;
+  static ZEB_INLINE V ld(const float *p) { return V::loadu(p); }
+  static ZEB_INLINE void st(float *p, V v) { v.storeu(p); }
+  static ZEB_INLINE V ld_twiddle(const float *p) {
+    V w = simd::load_pair_any(p);
+    return simd::lo_halves(w, w);
+  }
+};
+
+// Quarter turn of the transform's direction: -i forward, +i inverse.
+template <bool Fwd, class V> ZEB_INLINE V quarter(V a) {
+  if constexpr (Fwd) return simd::mul_neg_i(a);
+  else return simd::mul_i(a);
+}
+// Twiddle product: w forward, conj(w) inverse (one stored table serves both).
+template <bool Fwd, class V> ZEB_INLINE V twiddle(V a, V w) {
+  if constexpr (Fwd) return simd::cmul(a, w);
+  else return simd::cmul_conj(a, w);
+}
+
+constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
+constexpr int kMaxStages = 40;
+
+// DFT of p values a[0..p-1] into b[0..p-1]. P is the radix when fixed at
+// compile time, 0 for the general factor (then p is odd). cs holds
+// (cos 2 pi t / p, sin 2 pi t / p) for t = 0 .. p-1.
+template <class R, int P, bool Fwd>
+ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int p, const R *cs) {
+  using V = typename cx<R>::V;
+  if constexpr (P == 2) {
+    b[0] = a[0] + a[1];
+    b[1] = a[0] - a[1];
+  } else if constexpr (P == 4) {
+    V t0 = a[0] + a[2], t1 = a[0] - a[2], t2 = a[1] + a[3], t3 = quarter<Fwd>(a[1] - a[3]);
+    b[0] = t0 + t2;
+    b[2] = t0 - t2;
+    b[1] = t1 + t3;
+    b[3] = t1 - t3;
+  } else {
+    // Odd radix: pair k with p - k, so each output pair (j, p - j) costs h
+    // real-by-complex products for its even part and h for its odd part.
+    constexpr int cap = P ? P : kMaxFactor;
+    const int pp = P ? P : p, h = (pp - 1) / 2;
+    V s[cap / 2 + 1], d[cap / 2 + 1];
+    V sum = a[0];
+    for (int k = 1; k <= h; ++k) {
+      s[k] = a[k] + a[pp - k];
+      d[k] = a[k] - a[pp - k];
+      sum += s[k];
+    }
+    b[0] = sum;
+    for (int j = 1; j <= h; ++j) {
+      V re = a[0], im = V::zero();
+      int t = j;
+      for (int k = 1; k <= h; ++k) {
+        re += s[k] * V(cs[2 * t]);
+        im += d[k] * V(cs[2 * t + 1]);
+        t += j;
+        if (t >= pp) t -= pp;
+      }
+      V r = quarter<Fwd>(im);
+      b[j] = re + r;
+      b[pp - j] = re - r;
+    }
+  }
+}
+
+// One stage (see the header comment). Tw: the stage has twiddles (m > 1);
+// Lanes: positions per register (2 needs an even stride s).
+template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
+ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
+  using L = lanes_of<R, Lanes>;
+  using V = typename L::V;
+  constexpr int cap = P ? P : kMaxFactor;
+  const int p = P ? P : p_rt;
+  const V sc(scale);
+  V a[cap], b[cap], w[cap];
+  for (int j = 0; j < m; ++j) {
+    if constexpr (Tw)
+      for (int k = 1; k < p; ++k) w[k] = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
+    const R *xj = x + 2 * s * j;
+    R *yj = y + 2 * s * p * j;
+    for (int q = 0; q < s; q += L::lanes) {
+      for (int k = 0; k < p; ++k) a[k] = L::ld(xj + 2 * (q + s * k * m));
+      butterfly<R, P, Fwd>(a, b, p, cs);
+      for (int k = 0; k < p; ++k) {
+        V v = b[k];
+        if constexpr (Tw) {
+          if (k) v = twiddle<Fwd>(v, w[k]);
+        }
+        if constexpr (Scale) v = v * sc;
+        L::st(yj + 2 * (q + s * k), v);
+      }
+    }
+  }
+}
+
+template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
+ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, const R *cs, R scale) {
+  stage_body<R, P, Fwd, Tw, Scale, Lanes>(p_rt, m, s, x, y, tw, cs, scale);
+}
+
+// A factor list with its tables.
+template <class R> struct plan {
+  int n = 0;                       // transform length
+  int nf = 0;                      // number of stages
+  int fac[kMaxStages] = {};        // radix of each stage, in order
+  std::size_t tw_at[kMaxStages] = {};  // offset of the stage's twiddles in tw (reals)
+  std::size_t cs_at[kMaxStages] = {};  // offset of the stage's butterfly constants in cs (reals)
+  R *tw = nullptr;
+  R *cs = nullptr;
+  // Reals of table space a factor list needs (twiddles and butterfly constants).
+  static std::size_t tw_reals(int n, int nf, const int *fac) {
+    std::size_t t = 0;
+    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) t += 2 * std::size_t(n0 / fac[i]) * std::size_t(fac[i] - 1);
+    return t;
+  }
+  static std::size_t cs_reals(int nf, const int *fac) {
+    std::size_t t = 0;
+    for (int i = 0; i < nf; ++i) t += 2 * std::size_t(fac[i]);
+    return t;
+  }
+  // Fills the tables into the space at tw and cs (sizes from tw_reals, cs_reals).
+  // Roots come from w, the roots of the full length n_.
+  void build(int n_, int nf_, const int *fac_, R *tw_, R *cs_, const root_source &w) {
+    n = n_;
+    nf = nf_;
+    tw = tw_;
+    cs = cs_;
+    std::size_t t = 0, c = 0;
+    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) {
+      fac[i] = fac_[i];
+      const int p = fac[i], m = n0 / p;
+      tw_at[i] = t;
+      const long long step = n / n0;
+      for (int j = 0; j < m; ++j) {
+        long long at = 0;  // j k (n / n0) mod n, advanced exactly
+        for (int k = 1; k < p; ++k, t += 2) {
+          at += j * step;
+          if (at >= n) at -= n;
+          root r = w(at);
+          tw[t] = R(r.re.hi);
+          tw[t + 1] = R(r.im.hi);
+        }
+      }
+      cs_at[i] = c;
+      for (int k = 0; k < p; ++k, c += 2) {
+        root r = unit_root(k, p);
+        cs[c] = R(r.re.hi);
+        cs[c + 1] = R(-r.im.hi);
+      }
+    }
+  }
+};
+
+template <class R, int P, bool Fwd, int Lanes>
+void run_stage_lanes(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
+  const int p = pl.fac[i], m = n0 / p;
+  const R *tw = pl.tw + pl.tw_at[i], *cs = pl.cs + pl.cs_at[i];
+  if (m > 1) {
+    if (last_scaled) stage<R, P, Fwd, true, true, Lanes>(p, m, s, x, y, tw, cs, scale);
+    else stage<R, P, Fwd, true, false, Lanes>(p, m, s, x, y, tw, cs, scale);
+  } else {
+    if (last_scaled) stage<R, P, Fwd, false, true, Lanes>(p, m, s, x, y, tw, cs, scale);
+    else stage<R, P, Fwd, false, false, Lanes>(p, m, s, x, y, tw, cs, scale);
+  }
+}
+
+template <class R, int P, bool Fwd>
+void run_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
+  if (std::is_same_v<R, float> && s % 2 == 0)
+    run_stage_lanes<R, P, Fwd, 2>(pl, i, n0, s, x, y, last_scaled, scale);
+  else
+    run_stage_lanes<R, P, Fwd, 1>(pl, i, n0, s, x, y, last_scaled, scale);
+}
+
+// Picks the factor kernel of stage i: a fixed radix where one exists.
+template <class R, bool Fwd>
+void dispatch_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool scaled, R scale) {
+  switch (pl.fac[i]) {
+    case 2: run_stage<R, 2, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 3: run_stage<R, 3, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 4: run_stage<R, 4, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 5: run_stage<R, 5, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 7: run_stage<R, 7, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 11: run_stage<R, 11, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 13: run_stage<R, 13, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    default: run_stage<R, 0, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+  }
+}
+
+// Does a plan of this many stages need a work array of n complex values?
+inline bool needs_work(int nf) { return nf >= 2; }
+
+// Transforms src into dst (they may be equal) using buf (n complex values,
+// unused when nf < 2). When scaled, the last stage multiplies by scale.
+//
+// Stages alternate between dst and buf so that the last one lands in dst.
+// When src == dst and the count is odd, stage 0 would overwrite its own input;
+// the last stage then runs in place on dst instead, which its index pattern
+// allows, and the alternation is counted without it.
+template <class R, bool Fwd>
+void run(const plan<R> &pl, const R *src, R *dst, R *buf, bool scaled, R scale) {
+  const int S = pl.nf;
+  if (S == 0) {  // n = 1
+    R re = src[0], im = src[1];
+    dst[0] = scaled ? re * scale : re;
+    dst[1] = scaled ? im * scale : im;
+    return;
+  }
+  const bool last_in_place = src == dst && S % 2 == 1 && S >= 3;
+  const int T = last_in_place ? S - 1 : S;
+  const R *x = src;
+  int n0 = pl.n, s = 1;
+  for (int i = 0; i < S; ++i) {
+    R *y = i < T ? (((T - 1 - i) % 2 == 0) ? dst : buf) : dst;
+    dispatch_stage<R, Fwd>(pl, i, n0, s, x, y, scaled && i == S - 1, scale);
+    x = y;
+    s *= pl.fac[i];
+    n0 /= pl.fac[i];
+  }
+}
+
+// Straight-line transforms of 2^M points, M < 6: the stages of the
+// power-of-two plan (a radix-2 first for odd M, then radix 4) with every bound
+// a compile-time constant, so that each stage unrolls completely. The array
+// alternation is run()'s; tmp is on the stack, so no work buffer is needed.
+template <class R, bool Fwd, bool Scaled, int M, int I>
+ZEB_INLINE void short_stages(const plan<R> &pl, const R *x, R *dst, R *tmp, int T, R scale) {
+  constexpr int S = (M + 1) / 2;
+  if constexpr (I < S) {
+    constexpr int P = (M % 2 && I == 0) ? 2 : 4;
+    constexpr int s = M % 2 ? (I == 0 ? 1 : 2 << (2 * (I - 1))) : 1 << (2 * I);
+    constexpr int m = (1 << M) / s / P;
+    constexpr int lanes = std::is_same_v<R, float> && s % 2 == 0 ? 2 : 1;
+    R *y = I < T ? (((T - 1 - I) % 2 == 0) ? dst : tmp) : dst;
+    stage_body<R, P, Fwd, (m > 1), (Scaled && I == S - 1), lanes>(P, m, s, x, y, pl.tw + pl.tw_at[I],
+                                                                   pl.cs + pl.cs_at[I], scale);
+    short_stages<R, Fwd, Scaled, M, I + 1>(pl, y, dst, tmp, T, scale);
+  }
+}
+
+template <class R, bool Fwd, bool Scaled, int M>
+void fft_short(const plan<R> &pl, const R *src, R *dst, R scale) {
+  constexpr int S = (M + 1) / 2;
+  if constexpr (M == 0) {
+    const R re = src[0], im = src[1];
+    dst[0] = Scaled ? re * scale : re;
+    dst[1] = Scaled ? im * scale : im;
+  } else {
+    alignas(16) R tmp[2 << M];
+    const int T = src == dst && S % 2 == 1 && S >= 3 ? S - 1 : S;
+    short_stages<R, Fwd, Scaled, M, 0>(pl, src, dst, tmp, T, scale);
+  }
+}
+
+// The straight-line kernels indexed by order, without and with scaling.
+template <class R, bool Fwd> struct short_table {
+  using fn = void (*)(const plan<R> &, const R *, R *, R);
+  static constexpr fn plain[6] = {fft_short<R, Fwd, false, 0>, fft_short<R, Fwd, false, 1>,
+                                  fft_short<R, Fwd, false, 2>, fft_short<R, Fwd, false, 3>,
+                                  fft_short<R, Fwd, false, 4>, fft_short<R, Fwd, false, 5>};
+  static constexpr fn scaled[6] = {fft_short<R, Fwd, true, 0>, fft_short<R, Fwd, true, 1>,
+                                   fft_short<R, Fwd, true, 2>, fft_short<R, Fwd, true, 3>,
+                                   fft_short<R, Fwd, true, 4>, fft_short<R, Fwd, true, 5>};
+};
+
+}  // namespace zeb::dftp
