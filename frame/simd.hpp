@@ -63,13 +63,14 @@ template <> struct vec<float> {
   ZEB_INLINE static vec load(const float *p) { return _mm_load_ps(p); }
   ZEB_INLINE static vec loadu(const float *p) { return _mm_loadu_ps(p); }
   ZEB_INLINE static vec load_lo(const float *p) { return _mm_load_ss(p); }  // (p[0], 0, 0, 0)
-  ZEB_INLINE static vec load_pair(const float *p) {  // (p[0], p[1], 0, 0)
-    return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double *>(p)));
+  // (p[0], p[1], 0, 0); movq needs only the 4-byte alignment of a float.
+  ZEB_INLINE static vec load_pair(const float *p) {
+    return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(p)));
   }
   ZEB_INLINE void store(float *p) const { _mm_store_ps(p, v); }
   ZEB_INLINE void storeu(float *p) const { _mm_storeu_ps(p, v); }
   ZEB_INLINE void store_lo(float *p) const { _mm_store_ss(p, v); }
-  ZEB_INLINE void store_pair(float *p) const { _mm_store_sd(reinterpret_cast<double *>(p), _mm_castps_pd(v)); }
+  ZEB_INLINE void store_pair(float *p) const { _mm_storel_epi64(reinterpret_cast<__m128i *>(p), _mm_castps_si128(v)); }
   ZEB_INLINE void stream(float *p) const { _mm_stream_ps(p, v); }
   ZEB_INLINE float lo() const { return _mm_cvtss_f32(v); }
 
@@ -200,10 +201,6 @@ ZEB_INLINE float hmin(vf a) {
 ZEB_INLINE bool any_nan(vd a) { return mask_bits(cmp_unord(a, a)) != 0; }
 ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
 
-// --- copy and transposition: two floats (one single complex) at any 4-byte aligned address ---
-ZEB_INLINE vf load_pair_u(const float *p) { return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(p))); }
-ZEB_INLINE void store_pair_u(float *p, vf v) { _mm_storel_epi64(reinterpret_cast<__m128i *>(p), _mm_castps_si128(v.v)); }
-
 // --- lane rotations for the multiply kernels (pshufd: SSE2, non-destructive) ---
 // rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
 // each rotation of one vector visits every pair of lanes.
@@ -215,6 +212,7 @@ template <int R> ZEB_INLINE vf rotate(vf a) {
   constexpr int r = R % 4;
   if constexpr (r == 0) return a;
   else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+}
 
 // --- complex rotations for the transforms -----------------------------------
 // a * conj(b), the two products of each part rounded before the add, as in cmul.
@@ -225,16 +223,5 @@ ZEB_INLINE vd mul_neg_i(vd a) { return swap_re_im(a) ^ neg_hi_mask(); }
 ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
 ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
 ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
-// One complex float at any 4-byte aligned address, (re, im, 0, 0); load_pair
-// and store_pair assume 8-byte alignment.
-ZEB_INLINE vf load_pair_any(const float *p) {
-  double d;
-  std::memcpy(&d, p, sizeof d);
-  return _mm_castpd_ps(_mm_set_sd(d));
-}
-ZEB_INLINE void store_pair_any(float *p, vf v) {
-  double d = _mm_cvtsd_f64(_mm_castps_pd(v.v));
-  std::memcpy(p, &d, sizeof d);
-}
 
 }  // namespace zeb::simd

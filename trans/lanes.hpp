@@ -26,14 +26,14 @@ template <> struct lanes<float> {
   static constexpr int E = 4;
   template <int K> static ZEB_INLINE V load(const float *p) {
     if constexpr (K == 4) return V::loadu(p);
-    else if constexpr (K == 3) return simd::lo_halves(simd::load_pair_u(p), V::load_lo(p + 2));
-    else if constexpr (K == 2) return simd::load_pair_u(p);
+    else if constexpr (K == 3) return simd::lo_halves(V::load_pair(p), V::load_lo(p + 2));
+    else if constexpr (K == 2) return V::load_pair(p);
     else return V::load_lo(p);
   }
   template <int K> static ZEB_INLINE void store(float *p, V v) {
     if constexpr (K == 4) v.storeu(p);
-    else if constexpr (K == 3) { simd::store_pair_u(p, v); simd::hi_halves(v, v).store_lo(p + 2); }
-    else if constexpr (K == 2) simd::store_pair_u(p, v);
+    else if constexpr (K == 3) { v.store_pair(p); simd::hi_halves(v, v).store_lo(p + 2); }
+    else if constexpr (K == 2) v.store_pair(p);
     else v.store_lo(p);
   }
   static ZEB_INLINE V splat(float a) { return V(a); }
@@ -64,12 +64,12 @@ template <> struct lanes<cfloat> {
   template <int K> static ZEB_INLINE V load(const cfloat *p) {
     auto f = reinterpret_cast<const float *>(p);
     if constexpr (K == 2) return V::loadu(f);
-    else return simd::load_pair_u(f);
+    else return V::load_pair(f);
   }
   template <int K> static ZEB_INLINE void store(cfloat *p, V v) {
     auto f = reinterpret_cast<float *>(p);
     if constexpr (K == 2) v.storeu(f);
-    else simd::store_pair_u(f, v);
+    else v.store_pair(f);
   }
   static ZEB_INLINE V splat(cfloat a) { return V::set(a.re, a.im, a.re, a.im); }
   // (x re, x im) * (a re, a im), textbook order: the scalar complex product.

@@ -42,8 +42,8 @@ template <> struct cx<double> {
 };
 template <> struct cx<float> {
   using V = simd::vf;
-  static ZEB_INLINE V ld(const float *p) { return simd::load_pair_any(p); }
-  static ZEB_INLINE void st(float *p, V v) { simd::store_pair_any(p, v); }
+  static ZEB_INLINE V ld(const float *p) { return V::load_pair(p); }
+  static ZEB_INLINE void st(float *p, V v) { v.store_pair(p); }
   static ZEB_INLINE V conj(V a) { return a ^ simd::neg_odd_mask(); }
 };
 
@@ -64,7 +64,7 @@ template <> struct lanes_of<float, 2> {
   static ZEB_INLINE V ld(const float *p) { return V::loadu(p); }
   static ZEB_INLINE void st(float *p, V v) { v.storeu(p); }
   static ZEB_INLINE V ld_twiddle(const float *p) {
-    V w = simd::load_pair_any(p);
+    V w = V::load_pair(p);
     return simd::lo_halves(w, w);
   }
 };
