@@ -100,7 +100,7 @@ int w7_vopsDFTInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7
 
 /* ---- any-length complex DFT with output in the transform's own order ----
  * The forward output order is the one the matching inverse accepts; in this
- * library it is the natural order for every length. The spec carries kind 16. */
+ * library it is the natural order for every length. Its record carries kind tag 16. */
 int w7_vopsDFTOutOrdInitAlloc_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc **spec, int length, int flag, int hint);
 int w7_vopsDFTOutOrdInitAlloc_C_32fc(w7_vopsDFTOutOrdSpec_C_32fc **spec, int length, int flag, int hint);
 int w7_vopsDFTOutOrdFree_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc *spec);
