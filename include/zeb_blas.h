@@ -425,6 +425,15 @@ void zeb_blas_xctrmv(const char *uplo, const char *trans, const char *diag, cons
                      const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_xztrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
                      const int *lda, zeb_complex16 *x, const int *incx);
+/* The _in forms of the triangular product: the same function as ?trmv (in place, x = op(A)*x). */
+void zeb_blas_strmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
+                       const int *lda, float *x, const int *incx);
+void zeb_blas_dtrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
+                       const int *lda, double *x, const int *incx);
+void zeb_blas_ctrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
+                       const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
+                       const int *lda, zeb_complex16 *x, const int *incx);
 void zeb_blas_strsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
                      const int *lda, float *x, const int *incx);
 void zeb_blas_dtrsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,

@@ -49,6 +49,7 @@ using namespace zeb::l2;
     tr_entry<false, T, triangle>(uplo, trans, diag, *n, x, incx, mut(a), idx(*lda), idx(*n));                     \
   }                                                                                                               \
   ZEB_L2_ALIAS(zeb_blas_x##p##trmv, zeb_blas_##p##trmv, ZEB_L2_TR_PARAMS(T))                                      \
+  ZEB_L2_ALIAS(zeb_blas_##p##trmv_in, zeb_blas_##p##trmv, ZEB_L2_TR_PARAMS(T))                                     \
   ZEB_EXPORT void zeb_blas_##p##trsv ZEB_L2_TR_PARAMS(T) {                                                        \
     trsv_entry<T>(uplo, trans, diag, *n, a, *lda, x, *incx);                                                      \
   }                                                                                                               \

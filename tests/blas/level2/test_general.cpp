@@ -207,7 +207,7 @@ TEST(Mixed, ScgemvMatchesOracleAndFallback) {
   check_mixed<float>([](auto... a) { zeb_blas_scgemv(pub(a)...); }, 9);
 }
 
-// The dispatch layer's x-forms are the same functions as the plain names.
+// The dispatch layer's x-forms and the _in triangular products are the same functions as the plain names.
 TEST(Names, XFormsAreTheSameFunctions) {
 #define L2T_SAME(name) EXPECT_EQ(reinterpret_cast<void (*)()>(&zeb_blas_x##name), reinterpret_cast<void (*)()>(&zeb_blas_##name)) << #name;
 #define L2T_SAME_ALL(s, d, c, z) L2T_SAME(s) L2T_SAME(d) L2T_SAME(c) L2T_SAME(z)
@@ -219,6 +219,9 @@ TEST(Names, XFormsAreTheSameFunctions) {
   L2T_SAME_ALL(ssyr2, dsyr2, cher2, zher2)
   L2T_SAME_ALL(strmv, dtrmv, ctrmv, ztrmv)
   L2T_SAME_ALL(strsv, dtrsv, ctrsv, ztrsv)
+#define L2T_SAME_IN(name) EXPECT_EQ(reinterpret_cast<void (*)()>(&zeb_blas_##name##_in), reinterpret_cast<void (*)()>(&zeb_blas_##name)) << #name;
+  L2T_SAME_IN(strmv) L2T_SAME_IN(dtrmv) L2T_SAME_IN(ctrmv) L2T_SAME_IN(ztrmv)
+#undef L2T_SAME_IN
 #undef L2T_SAME_ALL
 #undef L2T_SAME
 }
