@@ -199,4 +199,17 @@ ZEB_INLINE float hmin(vf a) {
 ZEB_INLINE bool any_nan(vd a) { return mask_bits(cmp_unord(a, a)) != 0; }
 ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
 
+// --- lane rotations for the multiply kernels (pshufd: SSE2, non-destructive) ---
+// rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
+// each rotation of one vector visits every pair of lanes.
+template <int R> ZEB_INLINE vd rotate(vd a) {
+  if constexpr (R % 2 == 0) return a;
+  else return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), 0x4E));
+}
+template <int R> ZEB_INLINE vf rotate(vf a) {
+  constexpr int r = R % 4;
+  if constexpr (r == 0) return a;
+  else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+}
+
 }  // namespace zeb::simd

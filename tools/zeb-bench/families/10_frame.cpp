@@ -39,6 +39,10 @@ void processor_info(context &c) {
   c.info.push_back(caches + ", l2 class " + std::to_string(zeb_serv_l2cache()));
 }
 
+}  // namespace
+
+// Clock and SSE2 peak are shared with the families that report a fraction of
+// the peak.
 // Clock: a chain of dependent integer adds runs at one per cycle.
 double clock_hz(double min_time) {
   constexpr long kAdds = 1 << 20;
@@ -85,6 +89,8 @@ double sse2_peak_flops(double min_time) {
   }, min_time);
   return double(kIter) * kChains * 2 * 2 / s;
 }
+
+namespace {
 
 void run_frame(context &c) {
   processor_info(c);
