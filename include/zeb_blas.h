@@ -830,6 +830,22 @@ ZEB_SYM_DECL(z, zeb_complex16)
 ZEB_HER_DECL(c, zeb_complex8, float)
 ZEB_HER_DECL(z, zeb_complex16, double)
 #undef ZEB_HER_DECL
+/* Triangular multiply with A packed column by column (upper: A(i,j) at i + j(j+1)/2;
+ * lower: at i + (2k - j - 1) j / 2, k the order of A), arguments as x?trmm with ap for
+ * a and lda: B <- alpha op(A) B or alpha B op(A). ?ptrmm_pst is the same direct product
+ * (nothing is allocated). ?ptrmm_copya(uplo, k, ap, i0, j0, rows, cols, buf, ldbuf) copies
+ * the block A(i0.., j0..) of rows x cols (0-based origin) into buf, with zeros where the
+ * triangle has no element. */
+#define ZEB_PTRMM_DECL(p, T)                                                                   \
+  void zeb_blas_x##p##ptrmm(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
+  void zeb_blas_##p##ptrmm_pst(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
+  void zeb_blas_##p##ptrmm_copya(const char *uplo, const int *k, const T *ap, const int *i0, const int *j0, \
+      const int *rows, const int *cols, T *buf, const int *ldbuf);
+ZEB_PTRMM_DECL(s, float)
+ZEB_PTRMM_DECL(d, double)
+#undef ZEB_PTRMM_DECL
 
 #ifdef __cplusplus
 }

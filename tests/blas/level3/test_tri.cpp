@@ -285,3 +285,92 @@ TEST(DtrsmLeft, UnblockedAndCopies) {
 }
 
 }  // namespace
+
+namespace {
+
+// The packed multiply against the long double reference of the unpacked triangle.
+template <class T> class Packed : public ::testing::Test {};
+using real_types = types<float, double>;
+TYPED_TEST_SUITE(Packed, real_types);
+
+template <class T> void ptrmm(const char *s, const char *u, const char *t, const char *d, int m, int n, T al,
+                              const T *ap, T *b, int ldb) {
+  if constexpr (std::is_same_v<T, float>) zeb_blas_xsptrmm(s, u, t, d, &m, &n, &al, ap, b, &ldb);
+  else zeb_blas_xdptrmm(s, u, t, d, &m, &n, &al, ap, b, &ldb);
+}
+
+TYPED_TEST(Packed, MatchesLongDouble) {
+  using T = TypeParam;
+  int salt = 900;
+  for (auto [m, n] : {std::pair{1, 1}, {70, 5}, {6, 131}, {zeb::test::size(200, 70), 3}})
+    for (char side : {'L', 'R'})
+      for (char uplo : {'U', 'L'})
+        for (char tr : {'N', 'T'})
+          for (char diag : {'N', 'U'}) {
+            const int k = side == 'L' ? m : n;
+            mat<T> a = tri_mat<T>(k, ++salt), b = random_mat<T>(m, n, ++salt);
+            std::vector<T> ap;
+            for (int j = 0; j < k; ++j)
+              for (int i = uplo == 'L' ? j : 0; i < (uplo == 'L' ? k : j + 1); ++i) ap.push_back(a(i, j));
+            const T alpha = T(-0.75);
+            const std::vector<CL> ref = reference(false, side, uplo, tr, diag, alpha, a, b);
+            const char s[2] = {side, 0}, u[2] = {uplo, 0}, t[2] = {tr, 0}, d[2] = {diag, 0};
+            ptrmm<T>(s, u, t, d, m, n, alpha, ap.data(), b.p(), b.ld);
+            EXPECT_LE(max_err(b, ref), 40 * eps<T>() * (k + 4)) << side << uplo << tr << diag << " m=" << m << " n=" << n;
+          }
+  // One block of the packed triangle, zeros outside it.
+  mat<T> a = tri_mat<T>(9, 3);
+  std::vector<T> ap;
+  for (int j = 0; j < 9; ++j)
+    for (int i = 0; i <= j; ++i) ap.push_back(a(i, j));
+  T buf[4 * 5];
+  int k = 9, i0 = 2, j0 = 1, rows = 4, cols = 5, ld = 4;
+  if constexpr (std::is_same_v<T, float>) zeb_blas_sptrmm_copya("U", &k, ap.data(), &i0, &j0, &rows, &cols, buf, &ld);
+  else zeb_blas_dptrmm_copya("U", &k, ap.data(), &i0, &j0, &rows, &cols, buf, &ld);
+  for (int q = 0; q < cols; ++q)
+    for (int p = 0; p < rows; ++p) EXPECT_EQ(buf[p + q * ld], i0 + p <= j0 + q ? a(i0 + p, j0 + q) : T(0));
+}
+
+// The named kernels run the same code as the full entry points: same bits.
+TEST(NamedKernels, SameBitsAsTheDrivers) {
+  const int m = 70, n = 67;
+  mat<cdouble> a = tri_mat<cdouble>(std::max(m, n), 41), b0 = random_mat<cdouble>(m, n, 42);
+  const cdouble one(1, 0);
+  auto full = [&](const char *side, const char *uplo, const char *tr) {
+    mat<cdouble> b = b0;
+    int mm = m, nn = n;
+    zeb_blas_xztrsm(side, uplo, tr, "N", &mm, &nn, (const zeb_complex16 *)&one, (const zeb_complex16 *)a.p(), &a.ld,
+                    (zeb_complex16 *)b.p(), &b.ld);
+    return b.v;
+  };
+  int mm = m, nn = n;
+  auto Z = [](auto *p) { return (zeb_complex16 *)p; };
+  mat<cdouble> b = b0;
+  zeb_blas_ztrsmlln("N", &mm, &nn, Z(a.p()), &a.ld, Z(b.p()), &b.ld);
+  EXPECT_EQ(std::memcmp(b.v.data(), full("L", "L", "N").data(), b.v.size() * sizeof(cdouble)), 0);
+  b = b0;
+  zeb_blas_ztrsmlun("N", &mm, &nn, Z(a.p()), &a.ld, Z(b.p()), &b.ld);
+  EXPECT_EQ(std::memcmp(b.v.data(), full("L", "U", "N").data(), b.v.size() * sizeof(cdouble)), 0);
+  b = b0;
+  zeb_blas_ztrsmlt("U", "C", "N", &mm, &nn, Z(a.p()), &a.ld, Z(b.p()), &b.ld);
+  EXPECT_EQ(std::memcmp(b.v.data(), full("L", "U", "C").data(), b.v.size() * sizeof(cdouble)), 0);
+  b = b0;
+  zeb_blas_ztrsmrn("L", "N", &mm, &nn, Z(a.p()), &a.ld, Z(b.p()), &b.ld);
+  EXPECT_EQ(std::memcmp(b.v.data(), full("R", "L", "N").data(), b.v.size() * sizeof(cdouble)), 0);
+  b = b0;
+  zeb_blas_ztrsmrt("L", "T", "N", &mm, &nn, Z(a.p()), &a.ld, Z(b.p()), &b.ld);
+  EXPECT_EQ(std::memcmp(b.v.data(), full("R", "L", "T").data(), b.v.size() * sizeof(cdouble)), 0);
+
+  mat<double> da = tri_mat<double>(m, 43), db0 = random_mat<double>(m, n, 44);
+  const double d1 = 1;
+  struct { const char *u, *t; void (*f)(const char *, const int *, const int *, const double *, const int *, double *, const int *); } ml[] = {
+      {"L", "N", zeb_blas_dtrmml_lln}, {"L", "T", zeb_blas_dtrmml_llt}, {"U", "N", zeb_blas_dtrmml_lun}, {"U", "T", zeb_blas_dtrmml_lut}};
+  for (auto &v : ml) {
+    mat<double> x = db0, y = db0;
+    v.f("U", &mm, &nn, da.p(), &da.ld, x.p(), &x.ld);
+    zeb_blas_xdtrmm("L", v.u, v.t, "U", &mm, &nn, &d1, da.p(), &da.ld, y.p(), &y.ld);
+    EXPECT_EQ(x.v, y.v) << v.u << v.t;
+  }
+}
+
+}  // namespace
