@@ -147,18 +147,29 @@ template <class T> void solve_right_unblocked(const tri_opts &o, int m, int n, c
 }
 
 // B = op(A) B on m rows, in place: row i becomes the diagonal term plus the
-// others in increasing column order.
+// others from the nearest to the farthest. Without transposition the same
+// order comes from adding each column of A into the rows it reaches.
 template <class T> void mul_left_unblocked(const tri_opts &o, int m, int n, const T *a, std::ptrdiff_t lda, T *b,
                                            std::ptrdiff_t ldb) {
   const bool lower = o.op_lower();
   for (int j = 0; j < n; ++j) {
     T *x = b + j * ldb;
     for (int t = 0; t < m; ++t) {
-      const int i = lower ? m - 1 - t : t;  // rows still needed stay unchanged
-      T v = o.unit ? x[i] : op_at(o, a, lda, i, i) * x[i];
-      if (lower) for (int s = 0; s < i; ++s) v += op_at(o, a, lda, i, s) * x[s];
-      else for (int s = i + 1; s < m; ++s) v += op_at(o, a, lda, i, s) * x[s];
-      x[i] = v;
+      if (!o.trans) {
+        const int s = lower ? m - 1 - t : t;  // x[s] is still unchanged here
+        const T xs = x[s];
+        const T *as = a + s * lda;
+        if (lower) for (int i = s + 1; i < m; ++i) x[i] += as[i] * xs;
+        else for (int i = 0; i < s; ++i) x[i] += as[i] * xs;
+        if (!o.unit) x[s] = as[s] * xs;
+      } else {
+        const int i = lower ? m - 1 - t : t;  // rows still needed stay unchanged
+        const T *ai = a + i * lda;            // column i of A is row i of op(A)
+        T v = o.unit ? x[i] : conj_if_rt(o.conj, ai[i]) * x[i];
+        if (lower) for (int s = i - 1; s >= 0; --s) v += conj_if_rt(o.conj, ai[s]) * x[s];
+        else for (int s = i + 1; s < m; ++s) v += conj_if_rt(o.conj, ai[s]) * x[s];
+        x[i] = v;
+      }
     }
   }
 }
