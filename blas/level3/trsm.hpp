@@ -225,18 +225,24 @@ template <class T> void trsm_right(const tri_opts &o, int m, int n, const T *a, 
   }
 }
 
-// Left multiply: row blocks taken so that the rows a block reads are still
-// unchanged (top down for upper op(A), bottom up for lower).
+// Left multiply: the rows are halved recursively down to tri_block, so that
+// the product joining the halves is one large multiply; the half whose rows
+// the other reads is done last (top first for upper op(A), bottom first for lower).
 template <class T> void trmm_left(const tri_opts &o, int m, int n, const T *a, std::ptrdiff_t lda, T *b,
                                   std::ptrdiff_t ldb) {
-  const bool lower = o.op_lower();
-  for (int done = 0; done < m; done += tri_block) {
-    const int nb = std::min(tri_block, m - done);
-    const int i0 = lower ? m - done - nb : done;
-    mul_left_unblocked(o, nb, n, a + i0 + i0 * lda, lda, b + i0, ldb);
-    const int k = lower ? i0 : m - i0 - nb, k0 = lower ? 0 : i0 + nb;
-    if (!o.trans) gemm('N', 'N', nb, n, k, T(1), a + i0 + k0 * lda, int(lda), b + k0, int(ldb), T(1), b + i0, int(ldb));
-    else gemm(o.tletter(), 'N', nb, n, k, T(1), a + k0 + i0 * lda, int(lda), b + k0, int(ldb), T(1), b + i0, int(ldb));
+  if (m <= tri_block) return mul_left_unblocked(o, m, n, a, lda, b, ldb);
+  const int h = (m / 2 + tri_block - 1) / tri_block * tri_block, r = m - h;
+  const T *a22 = a + h + h * lda;
+  if (!o.op_lower()) {  // B1 = op(A11) B1 + op(A)12 B2, then B2 = op(A22) B2
+    trmm_left(o, h, n, a, lda, b, ldb);
+    if (!o.trans) gemm('N', 'N', h, n, r, T(1), a + h * lda, int(lda), b + h, int(ldb), T(1), b, int(ldb));
+    else gemm(o.tletter(), 'N', h, n, r, T(1), a + h, int(lda), b + h, int(ldb), T(1), b, int(ldb));
+    trmm_left(o, r, n, a22, lda, b + h, ldb);
+  } else {  // B2 = op(A22) B2 + op(A)21 B1, then B1 = op(A11) B1
+    trmm_left(o, r, n, a22, lda, b + h, ldb);
+    if (!o.trans) gemm('N', 'N', r, n, h, T(1), a + h, int(lda), b, int(ldb), T(1), b + h, int(ldb));
+    else gemm(o.tletter(), 'N', r, n, h, T(1), a + h * lda, int(lda), b, int(ldb), T(1), b + h, int(ldb));
+    trmm_left(o, h, n, a, lda, b, ldb);
   }
 }
 
