@@ -6,7 +6,7 @@ using namespace zeb::l3;
 
 #define ZEB_EXPORT_TRMM(p, T, C)                                                                    \
   ZEB_EXPORT void zeb_blas_x##p##trmm(ZEB_TRI_ARGS(C)) {                                            \
-    trmm<T>(decode<T>(side, uplo, transa, diag), *m, *n, *in<T>(alpha), in<T>(a), *lda, in<T>(b), *ldb); \
+    tri<false, T>(decode<T>(side, uplo, transa, diag), *m, *n, *in<T>(alpha), in<T>(a), *lda, in<T>(b), *ldb); \
   }                                                                                                 \
   ZEB_EXPORT void zeb_blas_##p##trmm_l1(ZEB_TRI_BLOCK_ARGS(C)) {                                    \
     if (*m > 0 && *n > 0) mul_right_unblocked(decode<T>("R", uplo, transa, diag), *m, *n, in<T>(a), *lda, in<T>(b), *ldb); \

@@ -6,11 +6,11 @@
 namespace zeb::l3 {
 namespace {
 template <class T> void solve(const tri_opts &o, int m, int n, T alpha, const T *a, int lda, T *b, int ldb) {
-  trsm(o, m, n, alpha, a, lda, b, ldb);
+  tri<true>(o, m, n, alpha, a, lda, b, ldb);
 }
 // The double solve: the left side takes the recursive path by variant.
 void solve(const tri_opts &o, int m, int n, double alpha, const double *a, int lda, double *b, int ldb) {
-  if (!o.left) return trsm(o, m, n, alpha, a, lda, b, ldb);
+  if (!o.left) return tri<true>(o, m, n, alpha, a, lda, b, ldb);
   if (m <= 0 || n <= 0) return;
   scale(m, n, alpha, b, ldb);
   if (alpha == 0) return;

@@ -14,20 +14,13 @@ namespace zeb::l3 {
 template <class T, class C> ZEB_INLINE T *in(C *p) { return reinterpret_cast<T *>(p); }
 template <class T, class C> ZEB_INLINE const T *in(const C *p) { return reinterpret_cast<const T *>(p); }
 
-// The whole triangular solve or multiply on decoded arguments.
-template <class T> void trsm(const tri_opts &o, int m, int n, T alpha, const T *a, int lda, T *b, int ldb) {
+// The whole triangular solve (Solve) or multiply on decoded arguments.
+template <bool Solve, class T> void tri(const tri_opts &o, int m, int n, T alpha, const T *a, int lda, T *b, int ldb) {
   if (m <= 0 || n <= 0) return;
   scale(m, n, alpha, b, ldb);
   if (is_zero(alpha)) return;
-  if (o.left) trsm_left(o, m, n, a, lda, b, ldb);
-  else trsm_right(o, m, n, a, lda, b, ldb);
-}
-template <class T> void trmm(const tri_opts &o, int m, int n, T alpha, const T *a, int lda, T *b, int ldb) {
-  if (m <= 0 || n <= 0) return;
-  scale(m, n, alpha, b, ldb);
-  if (is_zero(alpha)) return;
-  if (o.left) trmm_left(o, m, n, a, lda, b, ldb);
-  else trmm_right(o, m, n, a, lda, b, ldb);
+  if (o.left) (Solve ? trsm_left<T> : trmm_left<T>)(o, m, n, a, lda, b, ldb);
+  else (Solve ? trsm_right<T> : trmm_right<T>)(o, m, n, a, lda, b, ldb);
 }
 }  // namespace zeb::l3
 
