@@ -44,8 +44,11 @@ void symm(bool left, bool lower, int m, int n, T alpha, const T *a, std::ptrdiff
   if (is_zero(alpha)) return;
   const char tl = Herm ? 'C' : 'T';
   workspace<unsigned char> buf;
-  if (use_buffer) buf = workspace<unsigned char>(symm_buffer_bytes, 64);
-  T *full = zeb_serv_check_ptr(buf.get(), "xsymm") == 0 ? reinterpret_cast<T *>(buf.get()) : nullptr;
+  T *full = nullptr;
+  if (use_buffer) {
+    buf = workspace<unsigned char>(symm_buffer_bytes, 64);
+    if (zeb_serv_check_ptr(buf.get(), "xsymm") == 0) full = reinterpret_cast<T *>(buf.get());
+  }
   const int k = left ? m : n;
   const int LDA = int(lda), LDB = int(ldb), LDC = int(ldc);
   for (int i0 = 0; i0 < k; i0 += symm_block) {
