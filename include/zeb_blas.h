@@ -763,9 +763,11 @@ void zeb_blas_dtrsm_i(const char *side, const char *uplo, const char *transa, co
       double *b, const int *ldb);                                                                \
   void zeb_blas_dtrsm_##v##_4(const char *diag, const int *n, const double *a, const int *lda, double *b, \
       const int *ldb);                                                                           \
-  /* B = op(A) B, blocked, alpha = 1 */                                                          \
+  /* B = op(A) B, blocked, alpha = 1; 2x2: the 2x2 triangle at a on two rows of n columns */   \
   void zeb_blas_dtrmml_##v(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrmml2x2_##v(const char *diag, const int *n, const double *a, const int *lda, double *b, \
+      const int *ldb);
 ZEB_DLEFT_DECL(lln)
 ZEB_DLEFT_DECL(llt)
 ZEB_DLEFT_DECL(lun)

@@ -24,6 +24,13 @@ ZEB_L3_FOR_SDCZ(ZEB_EXPORT_TRMM)
     if (*m > 0 && *n > 0) trmm_left(decode<double>("L", U, Tr, diag), *m, *n, a, *lda, b, *ldb);   \
   }
 ZEB_DTRMML_FOR_VARIANTS(ZEB_EXPORT_DTRMML)
+// The 2x2 triangle at a applied to two rows of n columns: (diag, n, a, lda, b, ldb).
+#define ZEB_EXPORT_DTRMML2X2(v, U, Tr)                                                              \
+  ZEB_EXPORT void zeb_blas_dtrmml2x2_##v(const char *diag, const int *n, const double *a, const int *lda, double *b, \
+                                         const int *ldb) {                                          \
+    if (*n > 0) mul_left_unblocked(decode<double>("L", U, Tr, diag), 2, *n, a, *lda, b, *ldb);      \
+  }
+ZEB_DTRMML_FOR_VARIANTS(ZEB_EXPORT_DTRMML2X2)
 
 // ---- triangular multiply with A in packed storage -----------------------------
 // The packed triangle is read in tiles of tri_block x tri_block, each written

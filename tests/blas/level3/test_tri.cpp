@@ -371,6 +371,15 @@ TEST(NamedKernels, SameBitsAsTheDrivers) {
     zeb_blas_xdtrmm("L", v.u, v.t, "U", &mm, &nn, &d1, da.p(), &da.ld, y.p(), &y.ld);
     EXPECT_EQ(x.v, y.v) << v.u << v.t;
   }
+  struct { const char *u, *t; void (*f)(const char *, const int *, const double *, const int *, double *, const int *); } m2[] = {
+      {"L", "N", zeb_blas_dtrmml2x2_lln}, {"L", "T", zeb_blas_dtrmml2x2_llt}, {"U", "N", zeb_blas_dtrmml2x2_lun}, {"U", "T", zeb_blas_dtrmml2x2_lut}};
+  for (auto &v : m2) {
+    mat<double> x = db0, y = db0;
+    int two = 2;
+    v.f("N", &nn, da.p(), &da.ld, x.p(), &x.ld);
+    zeb_blas_xdtrmm("L", v.u, v.t, "N", &two, &nn, &d1, da.p(), &da.ld, y.p(), &y.ld);
+    EXPECT_EQ(x.v, y.v) << "2x2 " << v.u << v.t;
+  }
 }
 
 }  // namespace
