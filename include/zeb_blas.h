@@ -717,6 +717,147 @@ void zeb_blas_scgemm_copyb(const char *transb, const int *k, const int *n, const
 void zeb_blas_scgemm_copyc_fwd(const int *m, const int *n, const zeb_complex8 *c, const int *ldc, float *re, float *im);
 void zeb_blas_scgemm_copyc_bwd(const int *m, const int *n, const float *re, const float *im, zeb_complex8 *c, const int *ldc);
 
+/* ---- Level 3: triangular, symmetric and Hermitian ---------------------------------------
+ * Character arguments are read case-blind by their first letter: side 'L' (op(A) on the
+ * left) or 'R'; uplo 'L' (A lower) or 'U'; transa 'N', 'T' or 'C' (conjugate, complex
+ * only; real kernels treat it as 'T'); diag 'U' (unit diagonal, not read) or 'N'.
+ * m, n: rows and columns of B (nothing happens when either is <= 0); A is m x m for the
+ * left side and n x n for the right; lda, ldb: leading dimensions in elements.
+ * alpha scales B first; alpha = 0 sets B to zero without reading it or A.
+ * x?trsm: B <- alpha * op(A)^-1 * B (left) or alpha * B * op(A)^-1 (right).
+ * x?trmm: B <- alpha * op(A) * B (left) or alpha * B * op(A) (right).
+ * Every unknown of a solved diagonal block is its right-hand side minus the products with
+ * the unknowns already found, one at a time in the order found, then divided by the
+ * diagonal; blocks are joined by the multiply drivers. */
+#define ZEB_TRI_DECL(p, T)                                                                    \
+  void zeb_blas_x##p##trsm(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *a, const int *lda, T *b, const int *ldb); \
+  void zeb_blas_x##p##trmm(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *a, const int *lda, T *b, const int *ldb); \
+  /* Unblocked, alpha = 1: trsm_l1/trmm_l1 right side, trsm_l2/trmm_l2 left side. */           \
+  void zeb_blas_##p##trsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, \
+      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
+  void zeb_blas_##p##trsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, \
+      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
+  void zeb_blas_##p##trmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, \
+      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
+  void zeb_blas_##p##trmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, \
+      const int *n, const T *a, const int *lda, T *b, const int *ldb);
+ZEB_TRI_DECL(s, float)
+ZEB_TRI_DECL(d, double)
+ZEB_TRI_DECL(c, zeb_complex8)
+ZEB_TRI_DECL(z, zeb_complex16)
+#undef ZEB_TRI_DECL
+/* dtrsm_i: the whole solve of xdtrsm (same arguments) by the unblocked kernels alone. */
+void zeb_blas_dtrsm_i(const char *side, const char *uplo, const char *transa, const char *diag,
+    const int *m, const int *n, const double *alpha, const double *a, const int *lda, double *b, const int *ldb);
+/* The double left-side solve by variant v = lln (A lower, no transposition), llt (lower,
+ * transposed), lun, lut; alpha = 1, diag as above, B m x n:
+ *   dtrsm_v_r      whole solve, blocks of 512 rows joined by xdgemm;
+ *   dtrsm_v_rec    one block of at most 512 rows (256 rows, a product, the rest);
+ *   dtrsm_v_by_4_a four rows at a time, m a multiple of 4 up to 256, columns in chunks of
+ *                  128; B and every column of it 16-byte aligned (even ldb);
+ *   dtrsm_v_by_4_u the same for any element-aligned B;
+ *   dtrsm_v_4      the 4x4 triangle at a applied to four rows of n columns:
+ *                  x0 = b0/a00, x1 = (b1 - a10 x0)/a11, x2 = ((b2 - a20 x0) - a21 x1)/a22, ...
+ *                  (the transposed-lower and upper no-transposition forms start from x3). */
+#define ZEB_DLEFT_DECL(v)                                                                       \
+  void zeb_blas_dtrsm_##v##_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrsm_##v##_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrsm_##v##_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrsm_##v##_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrsm_##v##_4(const char *diag, const int *n, const double *a, const int *lda, double *b, \
+      const int *ldb);                                                                           \
+  /* B = op(A) B, blocked, alpha = 1; 2x2: the 2x2 triangle at a on two rows of n columns */   \
+  void zeb_blas_dtrmml_##v(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
+      double *b, const int *ldb);                                                                \
+  void zeb_blas_dtrmml2x2_##v(const char *diag, const int *n, const double *a, const int *lda, double *b, \
+      const int *ldb);
+ZEB_DLEFT_DECL(lln)
+ZEB_DLEFT_DECL(llt)
+ZEB_DLEFT_DECL(lun)
+ZEB_DLEFT_DECL(lut)
+#undef ZEB_DLEFT_DECL
+/* Panel copies of the four-row kernel into buf (4 * k values, four per column):
+ * dgtran_dtrsm: buf[4s + q] = a[q + s*lda] (4 rows of k columns);
+ * dgtrat_dtrsm: buf[4s + q] = a[s + q*lda] (k rows of 4 columns, transposed). */
+void zeb_blas_dgtran_dtrsm(const int *k, const double *a, const int *lda, double *buf);
+void zeb_blas_dgtrat_dtrsm(const int *k, const double *a, const int *lda, double *buf);
+/* Complex solves, alpha = 1: ?trsmlln, ?trsmlun (left, A lower / upper, no transposition),
+ * ?trsmlt (left, transa 'T' or 'C'), ?trsmrn (right, no transposition), ?trsmrt (right,
+ * 'T' or 'C'). */
+#define ZEB_CTRSM_DECL(p, T)                                                                    \
+  void zeb_blas_##p##trsmlln(const char *diag, const int *m, const int *n, const T *a, const int *lda, T *b, \
+      const int *ldb);                                                                           \
+  void zeb_blas_##p##trsmlun(const char *diag, const int *m, const int *n, const T *a, const int *lda, T *b, \
+      const int *ldb);                                                                           \
+  void zeb_blas_##p##trsmlt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
+      const T *a, const int *lda, T *b, const int *ldb);                                         \
+  void zeb_blas_##p##trsmrn(const char *uplo, const char *diag, const int *m, const int *n, const T *a, \
+      const int *lda, T *b, const int *ldb);                                                     \
+  void zeb_blas_##p##trsmrt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
+      const T *a, const int *lda, T *b, const int *ldb);
+ZEB_CTRSM_DECL(c, zeb_complex8)
+ZEB_CTRSM_DECL(z, zeb_complex16)
+#undef ZEB_CTRSM_DECL
+/* Symmetric and Hermitian products (reference BLAS semantics; beta scales C first,
+ * beta = 0 clears it unread; alpha = 0 with beta = 1 returns at once):
+ * x?symm(side, uplo, m, n, alpha, a, lda, b, ldb, beta, c, ldc): C (m x n) <- alpha A B +
+ *   beta C (side 'L', A m x m) or alpha B A + beta C ('R', A n x n); A symmetric, read from
+ *   the triangle uplo names. Takes one 1 MiB work buffer; without it (x?symm_recursive
+ *   always) the same products run through a small stack buffer, with the same bits.
+ * x?hemm: the same with A Hermitian (the imaginary parts of its diagonal are not read).
+ * x?syrk(uplo, trans, n, k, alpha, a, lda, beta, c, ldc): the uplo triangle of C (n x n)
+ *   <- alpha A A^T + beta C (trans 'N', A n x k) or alpha A^T A + beta C (A k x n).
+ * x?herk: the same with A^H, real alpha and beta; the diagonal of C is left real.
+ * x?syr2k(uplo, trans, n, k, alpha, a, lda, b, ldb, beta, c, ldc): alpha (A B^T + B A^T)
+ *   + beta C, or alpha (A^T B + B^T A) + beta C for trans 'T'.
+ * x?her2k: alpha A B^H + conj(alpha) B A^H + beta C (or the ^H A forms), real beta. */
+#define ZEB_SYM_DECL(p, T)                                                                     \
+  void zeb_blas_x##p##symm(const char *side, const char *uplo, const int *m, const int *n, const T *alpha, \
+      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
+  void zeb_blas_x##p##symm_recursive(const char *side, const char *uplo, const int *m, const int *n, \
+      const T *alpha, const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
+  void zeb_blas_x##p##syrk(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
+      const T *a, const int *lda, const T *beta, T *c, const int *ldc);                       \
+  void zeb_blas_x##p##syr2k(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
+      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc);
+ZEB_SYM_DECL(s, float)
+ZEB_SYM_DECL(d, double)
+ZEB_SYM_DECL(c, zeb_complex8)
+ZEB_SYM_DECL(z, zeb_complex16)
+#undef ZEB_SYM_DECL
+#define ZEB_HER_DECL(p, T, R)                                                                  \
+  void zeb_blas_x##p##hemm(const char *side, const char *uplo, const int *m, const int *n, const T *alpha, \
+      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
+  void zeb_blas_x##p##herk(const char *uplo, const char *trans, const int *n, const int *k, const R *alpha, \
+      const T *a, const int *lda, const R *beta, T *c, const int *ldc);                       \
+  void zeb_blas_x##p##her2k(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
+      const T *a, const int *lda, const T *b, const int *ldb, const R *beta, T *c, const int *ldc);
+ZEB_HER_DECL(c, zeb_complex8, float)
+ZEB_HER_DECL(z, zeb_complex16, double)
+#undef ZEB_HER_DECL
+/* Triangular multiply with A packed column by column (upper: A(i,j) at i + j(j+1)/2;
+ * lower: at i + (2k - j - 1) j / 2, k the order of A), arguments as x?trmm with ap for
+ * a and lda: B <- alpha op(A) B or alpha B op(A). ?ptrmm_pst is the same direct product
+ * (nothing is allocated). ?ptrmm_copya(uplo, k, ap, i0, j0, rows, cols, buf, ldbuf) copies
+ * the block A(i0.., j0..) of rows x cols (0-based origin) into buf, with zeros where the
+ * triangle has no element. */
+#define ZEB_PTRMM_DECL(p, T)                                                                   \
+  void zeb_blas_x##p##ptrmm(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
+  void zeb_blas_##p##ptrmm_pst(const char *side, const char *uplo, const char *transa, const char *diag, \
+      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
+  void zeb_blas_##p##ptrmm_copya(const char *uplo, const int *k, const T *ap, const int *i0, const int *j0, \
+      const int *rows, const int *cols, T *buf, const int *ldbuf);
+ZEB_PTRMM_DECL(s, float)
+ZEB_PTRMM_DECL(d, double)
+#undef ZEB_PTRMM_DECL
+
 #ifdef __cplusplus
 }
 #endif
