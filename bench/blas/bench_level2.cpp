@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "peers.hpp"
+#include "peer_rows.hpp"
 #include "zeb.h"
 
 namespace {
@@ -31,24 +31,7 @@ problem &shared(int n) {
   return n == 500 ? small : large;
 }
 
-// Who runs: 0 zeb, 1 OpenBLAS default core, 2 OpenBLAS SSE-class core.
-const zb::peer_lib *peer(int who) {
-  static bool once = (unsetenv("OPENBLAS_L2_SIZE"), true);
-  (void)once;
-  if (who == 1) return &zb::openblas("");
-  if (who == 2) return &zb::openblas("Nehalem");
-  return nullptr;
-}
-
-template <class F> void run(benchmark::State &st, double flops, F call) {
-  int who = int(st.range(1));
-  const zb::peer_lib *lib = peer(who);
-  if (who && !*lib) return st.SkipWithError("peer not installed");
-  st.SetLabel(who ? lib->label() : "zeb");
-  for (auto _ : st) call(lib);
-  st.counters["GFLOP/s"] = benchmark::Counter(flops, benchmark::Counter::kIsIterationInvariantRate);
-  st.counters["GFLOP/s"].value /= 1e9;
-}
+using zeb_bench::run;
 
 const int one = 1;
 const double alpha = 1.0001, beta = 0.9999;

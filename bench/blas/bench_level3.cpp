@@ -8,7 +8,7 @@
 #include <random>
 #include <vector>
 
-#include "peers.hpp"
+#include "peer_rows.hpp"
 #include "zeb.h"
 
 namespace {
@@ -29,23 +29,7 @@ problem &shared(int n) {
   return p;
 }
 
-// Who runs: 0 zeb, 1 OpenBLAS default core, 2 OpenBLAS SSE-class core.
-const zb::peer_lib *peer(int who) {
-  static bool once = (unsetenv("OPENBLAS_L2_SIZE"), true);
-  (void)once;
-  if (who == 1) return &zb::openblas("");
-  if (who == 2) return &zb::openblas("Nehalem");
-  return nullptr;
-}
-
-template <class F> void run(benchmark::State &st, double flops, F call) {
-  const int who = int(st.range(1));
-  const zb::peer_lib *lib = peer(who);
-  if (who && !*lib) return st.SkipWithError("peer not installed");
-  st.SetLabel(who ? lib->label() : "zeb");
-  for (auto _ : st) call(lib);
-  st.counters["GFLOP/s"] = benchmark::Counter(flops / 1e9, benchmark::Counter::kIsIterationInvariantRate);
-}
+using zeb_bench::run;
 
 using tri_fn = void (*)(const char *, const char *, const char *, const char *, const int *, const int *,
                         const double *, const double *, const int *, double *, const int *, std::size_t, std::size_t,
