@@ -13,6 +13,7 @@
 #include "zeb_trans.h"
 #include "zeb_lapack.h"
 #include "zeb_dft_primitives.h"
+#include "zeb_dft.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

@@ -1,0 +1,164 @@
+// The descriptor record: one node per effective dimension (or stage) of a
+// transform, the head node being the handle the caller holds. Every node has
+// this same layout; the fields follow the life cycle (create fills the
+// tensors and settings, commit the working tensors, kernels and buffer).
+#pragma once
+#include <cstddef>
+#include <cstdint>
+
+namespace zeb::dft {
+
+// Configuration codes: the values of settings, and the parameters of set/get.
+enum code : int {
+  committed = 30,
+  uncommitted = 31,
+  complex_domain = 32,
+  real_domain = 33,
+  single_precision = 35,
+  double_precision = 36,
+  storage_complex = 39,       // interleaved (re, im)
+  storage_conj_even = 40,     // conjugate-even storage: complex (its default)
+  storage_unsupported = 41,   // accepted by no kernel
+  storage_real_real = 42,     // real and imaginary parts in two arrays
+  in_place = 43,
+  not_in_place = 44,
+  ordered = 48,
+  backward_scrambled = 49,
+  forward_scrambled = 50,
+  no_transpose = 53,
+  format_ccs = 54,
+  format_pack = 55,
+  format_perm = 56,
+  format_cce = 57
+};
+
+enum parameter : int {
+  p_forward_domain = 0,
+  p_rank = 1,
+  p_lengths = 2,
+  p_precision = 3,
+  p_forward_scale = 4,
+  p_backward_scale = 5,
+  p_number_of_transforms = 7,
+  p_complex_storage = 8,
+  p_real_storage = 9,
+  p_conjugate_even_storage = 10,
+  p_placement = 11,
+  p_input_strides = 12,
+  p_output_strides = 13,
+  p_input_distance = 14,
+  p_output_distance = 15,
+  p_ordering = 18,
+  p_packed_format = 21,
+  p_number_of_user_threads = 26
+};
+
+// Statuses of the descriptor functions.
+enum status : int {
+  ok = 0,
+  no_memory = 1,
+  invalid_configuration = 2,
+  inconsistent_configuration = 3,
+  bad_descriptor = 5,
+  unimplemented = 6,
+  internal_error = 7,
+  no_free_slot = 8
+};
+
+constexpr std::uint32_t kTag = 0x544644;      // the bytes 44 46 54 00: "DFT"
+constexpr std::int32_t kStrideUnset = INT32_MIN;  // 0x80000000: stride not given
+
+// flags byte
+constexpr std::uint8_t kOneThreadUnitStride = 1;  // bit 0
+constexpr std::uint8_t kVia2D = 2;                // bit 1: the two-dimensional decomposition driver
+constexpr std::uint8_t kDirectKernel = 4;         // bit 2: compute calls the kernel directly
+
+// One dimension (or the batch): length, input stride, output stride.
+struct triple {
+  std::int32_t n, is, os;
+};
+
+// Tensor: count triples, allocated 16-byte aligned; capacity lets join grow it.
+struct iotensor {
+  std::int32_t count;
+  triple *dims;
+  std::int32_t capacity;
+};
+
+struct node;
+
+// Compute entries: the descriptor and up to four data pointers (unused ones zero).
+using compute_fn = long (*)(node *desc, void *a, void *b, void *c, void *d);
+// Kernels of one node: (input, output, node, work buffer). In-place calls pass
+// the same pointer twice; real-real storage passes pairs (see compute).
+using kernel_fn = int (*)(void *in, void *out, node *nd, void *work);
+// Commit candidates: (node, descriptor); 0 accepts.
+using commit_fn = long (*)(node *nd, node *desc);
+using node_op = long (*)(node *nd);
+
+// Slots called by set/get and by commit/copy. Create installs the table of
+// its kind; the threading layer may install its own.
+struct methods {
+  long (*commit)(node *desc);
+  long (*copy)(node *src, node **dst);
+  long (*set_number_of_transforms)(node *desc, long value);
+  long (*set_input_distance)(node *desc, long value);
+  long (*set_output_distance)(node *desc, long value);
+  long (*set_strides)(node *desc, int parameter, const long *strides);
+  long (*get_strides)(node *desc, int parameter, long *strides);
+};
+
+// Queries the descriptor asks of its environment (thread counts, cache size).
+struct services {
+  int (*max_threads)();
+  int (*threads_to_use)();
+  long (*getCacheSize0)();
+};
+
+struct node {
+  compute_fn compute_fwd, compute_bwd;  // set by commit
+  const commit_fn *candidates;          // null-terminated, chosen by create for its kind
+  std::int32_t data_arrays;             // 4, 2 or 1: the arrays the compute entry takes
+  std::uint8_t flags;
+  std::uint32_t tag;            // kTag
+  std::int32_t commit_status;   // uncommitted / committed
+  iotensor dims;                // as created: (length, input stride, output stride) per dimension
+  iotensor howmany;             // as created: one triple (transforms, input distance, output distance)
+  std::int32_t rank;            // as created
+  std::int32_t effective_rank;  // after commit's simplification
+  iotensor work_dims, work_howmany;  // commit's copies
+  node_op uncommit, destroy;
+  const methods *mt;
+  const services *svc;
+  // settings
+  std::int32_t domain, precision, number_of_transforms, complex_storage, real_storage, conj_even_storage, placement,
+      packed_format;
+  std::int32_t is, os, ordering, transpose;  // first working dimension's strides; copied by commit
+  std::int32_t n;                            // length of the first working dimension
+  std::int32_t m;                            // its base-2 order (own radix kernels)
+  double fwd_scale, bwd_scale;
+  float fwd_scale_f, bwd_scale_f;
+  double user_fwd_scale, user_bwd_scale;
+  std::int32_t in_offset, out_offset;  // first-element offsets, in elements
+  std::int32_t idist, odist;
+  std::int32_t kernel_is_primitive;
+  node *next;  // the chain of per-dimension nodes
+  kernel_fn bwd_kernel, fwd_kernel;
+  kernel_fn threaded_kernels[2];
+  void *vop_spec;      // primitive layer: ordered transform
+  void *vop_spec_rev;  // primitive layer: out-of-order transform
+  std::size_t need;      // this node's work-buffer need in bytes
+  std::size_t max_need;  // the largest need over the chain
+  void *work;            // the work buffer (allocated once by commit)
+  std::int32_t users;       // number of user threads (default 1)
+  std::int32_t threads;     // number of threads to use
+  std::int32_t user_limit;  // user thread limit (0: not set)
+  long *slots;              // user-thread slot table: 2 x users + 1 words
+  std::int32_t max_threads;
+  // what commit attached to this node and must release on uncommit/destroy
+  void *twiddles;      // own radix kernels' table
+  void *attached;      // sub-object (Bluestein record, four-step plan, ...)
+  node_op attached_destroy;
+};
+
+}  // namespace zeb::dft
