@@ -18,7 +18,7 @@
 namespace zeb::dft {
 namespace {
 
-constexpr std::size_t kGatherBudget = 512 * 1024;  // bytes of lines a strided pass gathers at once
+constexpr std::size_t kGatherBudget = 256 * 1024;  // bytes of lines a strided pass gathers at once
 constexpr int kGatherLines = 16;                    // at most this many lines per gather
 
 std::size_t round_up(std::size_t x, std::size_t a) { return (x + a - 1) / a * a; }

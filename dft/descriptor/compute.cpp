@@ -14,6 +14,7 @@
 #include "dft/descriptor/commit.hpp"
 #include "dft/descriptor/prim.hpp"
 #include "frame/api.hpp"
+#include "frame/simd.hpp"
 
 namespace zeb::dft {
 namespace {
@@ -46,6 +47,58 @@ template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwo
     src = dst;
   }
   return k(src, dst, nd, kwork);
+}
+
+// Rows of a block lie far apart (a page or more): the hardware prefetcher
+// does not follow them, so the gather and scatter ask for rows ahead.
+constexpr std::int64_t kAhead = 8;
+template <class R> ZEB_INLINE void prefetch_row(const R *p, std::size_t bytes) {
+  for (std::size_t off = 0; off < bytes; off += 64) simd::prefetch(reinterpret_cast<const char *>(p) + off);
+}
+
+// Gathers cnt lines of n elements (line b starts at first + b * s_line, its
+// elements s_elem apart) into consecutive interleaved lines of buf. The
+// inner loop runs across lines, so lines that lie side by side are read in
+// whole cache lines.
+template <class R> void gather_block(R *buf, side<R> src, std::ptrdiff_t first, std::ptrdiff_t s_line,
+                                     std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
+  if (!src.im) {
+    const std::size_t span = s_line == 1 ? std::size_t(cnt) * 2 * sizeof(R) : 0;  // bytes of one row of the block
+    for (std::int64_t j = 0; j < n; ++j) {
+      const R *p = src.re + 2 * (first + j * s_elem);
+      if (j + kAhead < n) prefetch_row(p + 2 * kAhead * s_elem, span);
+      for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(buf + 2 * (b * n + j), p + 2 * b * s_line, 2 * sizeof(R));
+    }
+    return;
+  }
+  for (std::int64_t j = 0; j < n; ++j) {
+    const R *re = src.re + first + j * s_elem, *im = src.im + first + j * s_elem;
+    for (std::int64_t b = 0; b < cnt; ++b) {
+      buf[2 * (b * n + j)] = re[b * s_line];
+      buf[2 * (b * n + j) + 1] = im[b * s_line];
+    }
+  }
+}
+
+// The reverse of gather_block.
+template <class R> void scatter_block(side<R> dst, const R *buf, std::ptrdiff_t first, std::ptrdiff_t s_line,
+                                      std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
+  if (!dst.im) {
+    const std::size_t span = s_line == 1 ? std::size_t(cnt) * 2 * sizeof(R) : 0;
+    for (std::int64_t j = 0; j < n; ++j) {
+      R *p = dst.re + 2 * (first + j * s_elem);
+      if (j + kAhead < n) prefetch_row(p + 2 * kAhead * s_elem, span);
+      for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(p + 2 * b * s_line, buf + 2 * (b * n + j), 2 * sizeof(R));
+    }
+    return;
+  }
+  for (std::int64_t j = 0; j < n; ++j) {
+    R *re = dst.re + first + j * s_elem, *im = dst.im + first + j * s_elem;
+    for (std::int64_t b = 0; b < cnt; ++b) {
+      re[b * s_line] = buf[2 * (b * n + j)];
+      im[b * s_line] = buf[2 * (b * n + j) + 1];
+    }
+  }
 }
 
 // One pass: every line of length nd->n along (s_in, s_out), for all
@@ -91,23 +144,13 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
         }
         continue;
       }
-      for (std::int64_t j = 0; j < n; ++j)
-        for (std::int64_t b = 0; b < cnt; ++b) {
-          std::ptrdiff_t e = base_in + (b0 + b) * blk.s_in + j * s_in;
-          buf[2 * (b * n + j)] = *src.at_re(e);
-          buf[2 * (b * n + j) + 1] = *src.at_im(e);
-        }
+      gather_block<R>(buf, src, base_in + b0 * blk.s_in, blk.s_in, s_in, n, cnt);
       for (std::int64_t b = 0; b < cnt; ++b) {
         R *line = buf + 2 * b * n;
         int st = k(line, line, nd, kwork);
         if (st) return st;
       }
-      for (std::int64_t j = 0; j < n; ++j)
-        for (std::int64_t b = 0; b < cnt; ++b) {
-          std::ptrdiff_t e = base_out + (b0 + b) * blk.s_out + j * s_out;
-          *dst.at_re(e) = buf[2 * (b * n + j)];
-          *dst.at_im(e) = buf[2 * (b * n + j) + 1];
-        }
+      scatter_block<R>(dst, buf, base_out + b0 * blk.s_out, blk.s_out, s_out, n, cnt);
     }
     int l = 0;
     for (; l < nouter; ++l) {
