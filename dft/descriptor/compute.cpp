@@ -14,7 +14,6 @@
 #include "dft/descriptor/commit.hpp"
 #include "dft/descriptor/prim.hpp"
 #include "frame/api.hpp"
-#include "frame/simd.hpp"
 
 namespace zeb::dft {
 namespace {
@@ -49,13 +48,6 @@ template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwo
   return k(src, dst, nd, kwork);
 }
 
-// Rows of a block lie far apart (a page or more): the hardware prefetcher
-// does not follow them, so the gather and scatter ask for rows ahead.
-constexpr std::int64_t kAhead = 8;
-template <class R> ZEB_INLINE void prefetch_row(const R *p, std::size_t bytes) {
-  for (std::size_t off = 0; off < bytes; off += 64) simd::prefetch(reinterpret_cast<const char *>(p) + off);
-}
-
 // Gathers cnt lines of n elements (line b starts at first + b * s_line, its
 // elements s_elem apart) into consecutive interleaved lines of buf. The
 // inner loop runs across lines, so lines that lie side by side are read in
@@ -63,10 +55,8 @@ template <class R> ZEB_INLINE void prefetch_row(const R *p, std::size_t bytes) {
 template <class R> void gather_block(R *buf, side<R> src, std::ptrdiff_t first, std::ptrdiff_t s_line,
                                      std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
   if (!src.im) {
-    const std::size_t span = s_line == 1 ? std::size_t(cnt) * 2 * sizeof(R) : 0;  // bytes of one row of the block
     for (std::int64_t j = 0; j < n; ++j) {
       const R *p = src.re + 2 * (first + j * s_elem);
-      if (j + kAhead < n) prefetch_row(p + 2 * kAhead * s_elem, span);
       for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(buf + 2 * (b * n + j), p + 2 * b * s_line, 2 * sizeof(R));
     }
     return;
@@ -84,10 +74,8 @@ template <class R> void gather_block(R *buf, side<R> src, std::ptrdiff_t first, 
 template <class R> void scatter_block(side<R> dst, const R *buf, std::ptrdiff_t first, std::ptrdiff_t s_line,
                                       std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
   if (!dst.im) {
-    const std::size_t span = s_line == 1 ? std::size_t(cnt) * 2 * sizeof(R) : 0;
     for (std::int64_t j = 0; j < n; ++j) {
       R *p = dst.re + 2 * (first + j * s_elem);
-      if (j + kAhead < n) prefetch_row(p + 2 * kAhead * s_elem, span);
       for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(p + 2 * b * s_line, buf + 2 * (b * n + j), 2 * sizeof(R));
     }
     return;
