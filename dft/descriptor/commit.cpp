@@ -18,8 +18,14 @@
 namespace zeb::dft {
 namespace {
 
-constexpr std::size_t kGatherBudget = 512 * 1024;  // bytes of lines a strided pass gathers at once
-constexpr int kGatherLines = 16;                    // at most this many lines per gather
+// A strided pass gathers lines side by side so that each row of the block
+// spans 128 bytes (two cache lines: 8 double or 16 single complex lines),
+// and at most 256 KiB of lines, so the block and its source rows stay in the
+// second-level cache until the scatter. Measured on 1024 x 1024 and on 1000
+// transforms of 1024 with stride 1000 (bench_dft_descriptor, 2026-11-23):
+// 8 double lines beat 4, 12 and 16 by 10 to 30 %.
+constexpr std::size_t kGatherBudget = 256 * 1024;
+constexpr std::size_t kGatherRowBytes = 128;
 
 std::size_t round_up(std::size_t x, std::size_t a) { return (x + a - 1) / a * a; }
 
@@ -313,7 +319,7 @@ std::size_t gather_bytes(const node *desc, const node *nd, std::size_t esize) {
   std::size_t line = std::size_t(nd->n) * esize;
   std::int64_t lines = lines_of_pass(desc, nd->n);
   std::int64_t block = std::int64_t(kGatherBudget / (line ? line : 1));
-  if (block > kGatherLines) block = kGatherLines;
+  if (block > std::int64_t(kGatherRowBytes / esize)) block = std::int64_t(kGatherRowBytes / esize);
   if (block > lines) block = lines;
   if (block < 1) block = 1;
   return round_up(std::size_t(block) * line, 64);

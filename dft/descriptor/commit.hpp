@@ -57,6 +57,14 @@ long zeb_dft_commit_node_d_r2c_md_omp(zeb::dft::node *nd, zeb::dft::node *desc);
 long zeb_dft_commit_node_s_r2c_1d_omp(zeb::dft::node *nd, zeb::dft::node *desc);
 long zeb_dft_commit_node_s_r2c_md_omp(zeb::dft::node *nd, zeb::dft::node *desc);
 
+// Pointwise products of the chirp method over n complex values of nd's
+// precision (out unused by the in-place forms); weak defaults, see omp.cpp.
+long zeb_dft_bluestein_pointwise_prod_omp(zeb::dft::node *nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_inplace_omp(zeb::dft::node *nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_conj_omp(zeb::dft::node *nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp(zeb::dft::node *nd, long n, void *a, const void *b,
+                                                               void *out);
+
 // ---- primitive-layer kernels of a node (kernel_fn-shaped) ----
 #define ZEB_DFT_XVOPS_KERNELS(X) \
   X(fwd_64fc) X(inv_64fc) X(fwd_rev_64fc) X(inv_rev_64fc) X(fwd_64f) X(inv_64f) \

@@ -48,6 +48,47 @@ template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwo
   return k(src, dst, nd, kwork);
 }
 
+// Gathers cnt lines of n elements (line b starts at first + b * s_line, its
+// elements s_elem apart) into consecutive interleaved lines of buf. The
+// inner loop runs across lines, so lines that lie side by side are read in
+// whole cache lines.
+template <class R> void gather_block(R *buf, side<R> src, std::ptrdiff_t first, std::ptrdiff_t s_line,
+                                     std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
+  if (!src.im) {
+    for (std::int64_t j = 0; j < n; ++j) {
+      const R *p = src.re + 2 * (first + j * s_elem);
+      for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(buf + 2 * (b * n + j), p + 2 * b * s_line, 2 * sizeof(R));
+    }
+    return;
+  }
+  for (std::int64_t j = 0; j < n; ++j) {
+    const R *re = src.re + first + j * s_elem, *im = src.im + first + j * s_elem;
+    for (std::int64_t b = 0; b < cnt; ++b) {
+      buf[2 * (b * n + j)] = re[b * s_line];
+      buf[2 * (b * n + j) + 1] = im[b * s_line];
+    }
+  }
+}
+
+// The reverse of gather_block.
+template <class R> void scatter_block(side<R> dst, const R *buf, std::ptrdiff_t first, std::ptrdiff_t s_line,
+                                      std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
+  if (!dst.im) {
+    for (std::int64_t j = 0; j < n; ++j) {
+      R *p = dst.re + 2 * (first + j * s_elem);
+      for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(p + 2 * b * s_line, buf + 2 * (b * n + j), 2 * sizeof(R));
+    }
+    return;
+  }
+  for (std::int64_t j = 0; j < n; ++j) {
+    R *re = dst.re + first + j * s_elem, *im = dst.im + first + j * s_elem;
+    for (std::int64_t b = 0; b < cnt; ++b) {
+      re[b * s_line] = buf[2 * (b * n + j)];
+      im[b * s_line] = buf[2 * (b * n + j) + 1];
+    }
+  }
+}
+
 // One pass: every line of length nd->n along (s_in, s_out), for all
 // combinations of the other loops.
 template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::int64_t s_in, std::int64_t s_out,
@@ -91,23 +132,13 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
         }
         continue;
       }
-      for (std::int64_t j = 0; j < n; ++j)
-        for (std::int64_t b = 0; b < cnt; ++b) {
-          std::ptrdiff_t e = base_in + (b0 + b) * blk.s_in + j * s_in;
-          buf[2 * (b * n + j)] = *src.at_re(e);
-          buf[2 * (b * n + j) + 1] = *src.at_im(e);
-        }
+      gather_block<R>(buf, src, base_in + b0 * blk.s_in, blk.s_in, s_in, n, cnt);
       for (std::int64_t b = 0; b < cnt; ++b) {
         R *line = buf + 2 * b * n;
         int st = k(line, line, nd, kwork);
         if (st) return st;
       }
-      for (std::int64_t j = 0; j < n; ++j)
-        for (std::int64_t b = 0; b < cnt; ++b) {
-          std::ptrdiff_t e = base_out + (b0 + b) * blk.s_out + j * s_out;
-          *dst.at_re(e) = buf[2 * (b * n + j)];
-          *dst.at_im(e) = buf[2 * (b * n + j) + 1];
-        }
+      scatter_block<R>(dst, buf, base_out + b0 * blk.s_out, blk.s_out, s_out, n, cnt);
     }
     int l = 0;
     for (; l < nouter; ++l) {

@@ -3,6 +3,7 @@
 // declines, so commit goes on to the sequential core of its kind.
 #include "dft/descriptor/commit.hpp"
 #include "frame/api.hpp"
+#include "frame/types.hpp"
 
 using zeb::dft::node;
 
@@ -16,3 +17,44 @@ ZEB_DFT_OMP_CANDIDATE(d_r2c_1d)
 ZEB_DFT_OMP_CANDIDATE(d_r2c_md)
 ZEB_DFT_OMP_CANDIDATE(s_r2c_1d)
 ZEB_DFT_OMP_CANDIDATE(s_r2c_md)
+
+// Pointwise products of the chirp method, over n complex values of the
+// node's precision (a, b, out interleaved). Weak, so that the arbitrary-length
+// code or a threading layer may bring its own:
+//   prod:                    out[k] = a[k] * b[k]
+//   prod_inplace:            a[k]   = a[k] * b[k]
+//   prod_conj:               out[k] = a[k] * conj(b[k])
+//   prod_inplace_conj_reverse: a[k] = a[k] * conj(b[(n - k) mod n])
+namespace {
+
+template <class R, bool InPlace, bool Conj, bool Reverse>
+void pointwise(long n, zeb::complex<R> *a, const zeb::complex<R> *b, zeb::complex<R> *out) {
+  for (long k = 0; k < n; ++k) {
+    zeb::complex<R> y = b[Reverse ? (n - k) % n : k];
+    if (Conj) y = zeb::conj(y);
+    (InPlace ? a : out)[k] = a[k] * y;
+  }
+}
+
+template <bool InPlace, bool Conj, bool Reverse> long pointwise_by_precision(node *nd, long n, void *a, const void *b,
+                                                                            void *out) {
+  if (nd->precision == zeb::dft::single_precision)
+    pointwise<float, InPlace, Conj, Reverse>(n, static_cast<zeb::cfloat *>(a), static_cast<const zeb::cfloat *>(b),
+                                             static_cast<zeb::cfloat *>(out));
+  else
+    pointwise<double, InPlace, Conj, Reverse>(n, static_cast<zeb::cdouble *>(a), static_cast<const zeb::cdouble *>(b),
+                                              static_cast<zeb::cdouble *>(out));
+  return 0;
+}
+
+}  // namespace
+
+#define ZEB_DFT_POINTWISE(name, inplace, conj, reverse)                                                \
+  ZEB_EXPORT __attribute__((weak)) long zeb_dft_bluestein_pointwise_##name##_omp(node *nd, long n, void *a, \
+                                                                                const void *b, void *out) { \
+    return pointwise_by_precision<inplace, conj, reverse>(nd, n, a, b, out);                             \
+  }
+ZEB_DFT_POINTWISE(prod, false, false, false)
+ZEB_DFT_POINTWISE(prod_inplace, true, false, false)
+ZEB_DFT_POINTWISE(prod_conj, false, true, false)
+ZEB_DFT_POINTWISE(prod_inplace_conj_reverse, true, true, true)

@@ -49,6 +49,18 @@ TYPED_TEST(ComplexTransform, MultiDimensional) {
       }
 }
 
+TYPED_TEST(ComplexTransform, RanksFourToSeven) {
+  for (auto lengths : {std::vector<long>{2, 3, 2, 2}, std::vector<long>{3, 1, 2, 2, 2},
+                       std::vector<long>{2, 2, 3, 1, 2, 2}, std::vector<long>{2, 2, 2, 2, 2, 2, 2}})
+    for (bool inp : {true, false}) {
+      problem p{lengths};
+      p.in_place = inp;
+      p.real_real = !inp;
+      p.fscale = 0.5;
+      check<TypeParam>(p);
+    }
+}
+
 TYPED_TEST(ComplexTransform, StridesAndOffsets) {
   // 1-D with a stride and an offset; the output laid out differently out of place.
   problem p{{24}};

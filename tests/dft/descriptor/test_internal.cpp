@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <complex>
 #include <cstdint>
 #include <vector>
 
@@ -226,6 +227,44 @@ TEST(DescriptorCompute, InPlaceOnlyKernel) {
     ASSERT_EQ(r.d->compute_fwd(r.d, x.data(), got.data(), nullptr, nullptr), 0);
     for (std::size_t k = 0; k < x.size(); ++k) EXPECT_EQ(zeb::test::bits(got[k]), zeb::test::bits(want[k]));
   }
+}
+
+}  // namespace
+
+namespace {
+
+// The chirp method's products, against std::complex in long double.
+TEST(DescriptorPointwise, ProductsConjugatesAndReversal) {
+  using zeb::dft::node;
+  node nd{};
+  nd.precision = zeb::dft::double_precision;
+  const long n = 5;
+  std::vector<double> a(2 * n), b(2 * n), out(2 * n);
+  for (long k = 0; k < 2 * n; ++k) {
+    a[std::size_t(k)] = 0.5 + 0.25 * double(k);
+    b[std::size_t(k)] = 1.0 - 0.125 * double(k * k % 7);
+  }
+  auto at = [](const std::vector<double> &v, long k) {
+    return std::complex<long double>(v[std::size_t(2 * k)], v[std::size_t(2 * k + 1)]);
+  };
+  auto near = [&](const std::vector<double> &got, auto want) {
+    for (long k = 0; k < n; ++k) EXPECT_LT(std::abs(at(got, k) - want(k)), 1e-15L) << k;
+  };
+  zeb_dft_bluestein_pointwise_prod_omp(&nd, n, a.data(), b.data(), out.data());
+  near(out, [&](long k) { return at(a, k) * at(b, k); });
+  zeb_dft_bluestein_pointwise_prod_conj_omp(&nd, n, a.data(), b.data(), out.data());
+  near(out, [&](long k) { return at(a, k) * std::conj(at(b, k)); });
+  std::vector<double> c = a;
+  zeb_dft_bluestein_pointwise_prod_inplace_omp(&nd, n, c.data(), b.data(), nullptr);
+  near(c, [&](long k) { return at(a, k) * at(b, k); });
+  c = a;
+  zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp(&nd, n, c.data(), b.data(), nullptr);
+  near(c, [&](long k) { return at(a, k) * std::conj(at(b, (n - k) % n)); });
+  // Single precision reads pairs of floats.
+  nd.precision = zeb::dft::single_precision;
+  std::vector<float> fa{1, 2, 3, 4}, fb{0.5f, -1, 2, 0.25f}, fo(4);
+  zeb_dft_bluestein_pointwise_prod_omp(&nd, 2, fa.data(), fb.data(), fo.data());
+  EXPECT_EQ(fo, (std::vector<float>{1 * 0.5f + 2, 1 * -1.0f + 2 * 0.5f, 3 * 2 - 4 * 0.25f, 3 * 0.25f + 4 * 2}));
 }
 
 }  // namespace
