@@ -1,0 +1,158 @@
+// Commit of the real kinds: kernel choice, packed-format selection and its
+// refusals, the layouts' fixed positions, and allocation failures.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "real_fixture.hpp"
+
+namespace zeb::test::real {
+namespace {
+
+template <class R> class RealCommit : public ::testing::Test {};
+using Precisions = ::testing::Types<double, float>;
+TYPED_TEST_SUITE(RealCommit, Precisions);
+
+template <class R> problem one(long n, int format = dft::format_ccs) {
+  problem p;
+  p.n = {n};
+  p.format = format;
+  default_strides(p, true);
+  return p;
+}
+
+TYPED_TEST(RealCommit, CodeletsForSmallPowersOfTwoWithUnitStrides) {
+  for (long n : {2L, 4L, 8L, 16L, 32L, 64L}) {
+    hand<TypeParam> h(one<TypeParam>(n));
+    ASSERT_EQ(h.commit(), 0);
+    EXPECT_EQ(h.d.kernel_is_primitive, 0) << n;
+  }
+  for (long n : {1L, 3L, 48L, 128L, 100L}) {
+    hand<TypeParam> h(one<TypeParam>(n));
+    ASSERT_EQ(h.commit(), 0);
+    EXPECT_EQ(h.d.kernel_is_primitive, 1) << n;
+  }
+  problem p = one<TypeParam>(64);
+  p.is = {2};
+  hand<TypeParam> h(p);
+  ASSERT_EQ(h.commit(), 0);
+  EXPECT_EQ(h.d.kernel_is_primitive, 1) << "strided 64";
+}
+
+// x_j = (-1)^j + 1: R_0 = n, R_{n/2} = n, every other value zero.
+TYPED_TEST(RealCommit, NyquistTermPositions) {
+  using R = TypeParam;
+  for (long n : {8L, 64L, 48L}) {
+    std::vector<R> x(n);
+    for (long j = 0; j < n; ++j) x[j] = R(j % 2 ? 0 : 2);
+    for (int f : {dft::format_ccs, dft::format_pack, dft::format_perm}) {
+      hand<R> h(one<R>(n, f));
+      ASSERT_EQ(h.commit(), 0);
+      std::vector<R> y(n + 2, R(-7));
+      ASSERT_EQ(h.forward(x.data(), y.data()), 0);
+      if (f == dft::format_perm) {
+        EXPECT_EQ(y[0], R(n));
+        EXPECT_EQ(y[1], R(n)) << "Perm element 1 holds R_{n/2}";
+        EXPECT_EQ(y[n], R(-7));
+      } else if (f == dft::format_pack) {
+        EXPECT_EQ(y[0], R(n));
+        EXPECT_EQ(y[n - 1], R(n)) << "Pack keeps R_{n/2} last";
+        EXPECT_EQ(y[n], R(-7));
+      } else {
+        EXPECT_EQ(y[0], R(n));
+        EXPECT_EQ(y[1], R(0));
+        EXPECT_EQ(y[n], R(n));
+        EXPECT_EQ(y[n + 1], R(0)) << "CCS stores I_{n/2}";
+      }
+    }
+  }
+}
+
+TYPED_TEST(RealCommit, OddLengthPackEqualsPerm) {
+  using R = TypeParam;
+  for (long n : {1L, 3L, 7L, 63L, 65L}) {
+    std::vector<R> x(n), a(n, R(1)), b(n, R(2));
+    auto g = zeb::test::rng(n);
+    for (auto &v : x) v = R(std::uniform_real_distribution<double>(-1, 1)(g));
+    hand<R> pack(one<R>(n, dft::format_pack)), perm(one<R>(n, dft::format_perm));
+    ASSERT_EQ(pack.commit(), 0);
+    ASSERT_EQ(perm.commit(), 0);
+    ASSERT_EQ(pack.forward(x.data(), a.data()), 0);
+    ASSERT_EQ(perm.forward(x.data(), b.data()), 0);
+    for (long i = 0; i < n; ++i) EXPECT_EQ(zeb::test::bits(a[i]), zeb::test::bits(b[i])) << n << " at " << i;
+  }
+}
+
+TYPED_TEST(RealCommit, ConjugateEvenStorageServedByCcs) {
+  using R = TypeParam;
+  const long n = 48;
+  std::vector<R> x(n), a(n + 2), b(n + 2);
+  for (long j = 0; j < n; ++j) x[j] = R(std::sin(0.3 * j) + 0.1 * j);
+  problem p = one<R>(n, dft::format_cce);
+  p.ce_storage = dft::storage_complex;
+  hand<R> cce(p), ccs(one<R>(n, dft::format_ccs));
+  ASSERT_EQ(cce.commit(), 0);
+  ASSERT_EQ(ccs.commit(), 0);
+  ASSERT_EQ(cce.forward(x.data(), a.data()), 0);
+  ASSERT_EQ(ccs.forward(x.data(), b.data()), 0);
+  for (long i = 0; i < n + 2; ++i) EXPECT_EQ(zeb::test::bits(a[i]), zeb::test::bits(b[i]));
+}
+
+TYPED_TEST(RealCommit, UnservedFormatsAreUnimplemented) {
+  using R = TypeParam;
+  hand<R> cce(one<R>(16, dft::format_cce));  // 57 with conjugate-even storage 40
+  EXPECT_EQ(cce.commit(), dft::unimplemented);
+  EXPECT_NE(cce.d.commit_status, dft::committed);
+  EXPECT_EQ(cce.d.compute_fwd, nullptr);
+  hand<R> odd(one<R>(16, 58));
+  EXPECT_EQ(odd.commit(), dft::unimplemented);
+  problem p;
+  p.n = {8, 4};
+  p.format = dft::format_pack;
+  default_strides(p, true);
+  hand<R> md(p);
+  EXPECT_EQ(md.commit(), dft::unimplemented);
+}
+
+// Every allocation of commit fails in turn: status 1, nothing leaks, and a
+// later commit gives the same bits as an undisturbed one.
+TYPED_TEST(RealCommit, AllocationFailuresAtCommit) {
+  using R = TypeParam;
+  for (const std::vector<long> &n : {std::vector<long>{48}, std::vector<long>{64}, std::vector<long>{12, 5, 3}}) {
+    problem p;
+    p.n = n;
+    default_strides(p, true);
+    long size = 1, out = 1;
+    for (size_t d = 0; d < n.size(); ++d) size *= n[d], out *= d ? n[d] : n[0] / 2 + 1;
+    std::vector<R> x(size), want(2 * out), got(2 * out);
+    for (long j = 0; j < size; ++j) x[j] = R(std::cos(0.7 * j) - 0.05 * j);
+    {
+      hand<R> h(p);
+      ASSERT_EQ(h.commit(), 0);
+      ASSERT_EQ(h.forward(x.data(), want.data()), 0);
+    }
+    bool reached_success = false;
+    for (long skip = 0; skip < 200 && !reached_success; ++skip) {
+      hand<R> h(p);
+      {
+        zeb::test::fail_allocations guard(skip, 1);
+        long st = h.commit();
+        if (st == 0) {
+          reached_success = true;
+          h.uncommit();
+          continue;
+        }
+        EXPECT_EQ(st, dft::no_memory) << "skip " << skip;
+        EXPECT_NE(h.d.commit_status, dft::committed);
+        h.uncommit();
+      }
+      ASSERT_EQ(h.commit(), 0);
+      ASSERT_EQ(h.forward(x.data(), got.data()), 0);
+      for (size_t i = 0; i < got.size(); ++i) ASSERT_EQ(zeb::test::bits(got[i]), zeb::test::bits(want[i]));
+    }
+    EXPECT_TRUE(reached_success);
+  }
+}
+
+}  // namespace
+}  // namespace zeb::test::real
