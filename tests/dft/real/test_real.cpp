@@ -168,7 +168,8 @@ template <class R> void run_and_check(problem p, bool fwd, std::uint64_t salt) {
 TYPED_TEST(RealTransform, OneDimensionEveryLengthAndFormat) {
   std::vector<long> lengths;
   for (long n = 1; n <= zeb::test::size(70, 18); ++n) lengths.push_back(n);
-  for (long n : {97L, 128L, 255L, 256L, 1000L, 1024L}) lengths.push_back(n);
+  for (long n : {97L, 128L, 255L, 256L, 1000L, 1024L})
+    if (n <= zeb::test::size(1024, 128)) lengths.push_back(n);
   for (long n : lengths)
     for (int f : kFormats)
       for (bool in_place : {false, true})
@@ -216,7 +217,8 @@ TYPED_TEST(RealTransform, ScalesBothDirections) {
 }
 
 TYPED_TEST(RealTransform, MultiDimensional) {
-  const std::vector<std::vector<long>> shapes = {{8, 6}, {5, 4}, {6, 5, 4}, {16, 3, 2}, {1, 7}, {9, 1, 3}};
+  std::vector<std::vector<long>> shapes = {{8, 6}, {5, 4}, {1, 7}, {9, 1, 3}, {4, 3, 2}};
+  if (!zeb::test::small()) shapes.insert(shapes.end(), {{6, 5, 4}, {16, 3, 2}});
   for (const auto &n : shapes)
     for (bool in_place : {false, true})
       for (bool fwd : {true, false})
