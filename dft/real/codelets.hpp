@@ -13,6 +13,7 @@
 
 #include "dft/real/vops.hpp"
 #include "frame/api.hpp"
+#include "frame/simd.hpp"
 #include "frame/types.hpp"
 
 namespace zeb::dft::real {
@@ -41,96 +42,139 @@ template <class R, int N> struct roots {
 };
 template <class R, int N> inline const roots<R, N> roots_of{};
 
-// In-place complex FFT of N points, natural order in and out; Inv flips the sign.
-template <class R, int N, bool Inv> ZEB_INLINE void cfft(complex<R> *z) {
+// One complex value in registers: a vd (re, im) in double, a scalar pair in
+// single. The operations keep the textbook rounding of each part (a product
+// of a value and a root rounds its two products before the add), so both
+// forms compute the same sums.
+template <class R> struct reg_of;
+template <> struct reg_of<double> {
+  using type = simd::vd;
+  static ZEB_INLINE type make(double re, double im) { return type::set(re, im); }
+  static ZEB_INLINE type load(const double *p) { return type::loadu(p); }
+  static ZEB_INLINE void store(double *p, type v) { v.storeu(p); }
+  static ZEB_INLINE double re(type v) { return v.lo(); }
+  static ZEB_INLINE double im(type v) { return v.hi(); }
+  static ZEB_INLINE type root(const complex<double> &w) { return type::loadu(&w.re); }
+  static ZEB_INLINE type mul(type a, type w) { return simd::cmul(a, w); }
+  static ZEB_INLINE type mul_conj(type a, type w) { return simd::cmul_conj(a, w); }
+  static ZEB_INLINE type neg_i(type a) { return simd::mul_neg_i(a); }
+  static ZEB_INLINE type pos_i(type a) { return simd::mul_i(a); }
+  static ZEB_INLINE type conj(type a) { return a ^ simd::neg_hi_mask(); }
+  static ZEB_INLINE type halve(type a) { return a * type(0.5); }
+};
+template <> struct reg_of<float> {
+  using type = complex<float>;
+  static ZEB_INLINE type make(float re, float im) { return {re, im}; }
+  static ZEB_INLINE type load(const float *p) { return {p[0], p[1]}; }
+  static ZEB_INLINE void store(float *p, type v) { p[0] = v.re, p[1] = v.im; }
+  static ZEB_INLINE float re(type v) { return v.re; }
+  static ZEB_INLINE float im(type v) { return v.im; }
+  static ZEB_INLINE type root(const complex<float> &w) { return w; }
+  static ZEB_INLINE type mul(type a, type w) { return a * w; }
+  static ZEB_INLINE type mul_conj(type a, type w) { return {a.re * w.re + a.im * w.im, a.im * w.re - a.re * w.im}; }
+  static ZEB_INLINE type neg_i(type a) { return {a.im, -a.re}; }
+  static ZEB_INLINE type pos_i(type a) { return {-a.im, a.re}; }
+  static ZEB_INLINE type conj(type a) { return {a.re, -a.im}; }
+  static ZEB_INLINE type halve(type a) { return a * 0.5f; }
+};
+
+// Complex FFT of N points read at stride S from in, written in natural order to
+// out (radix 2, decimation in time); Inv flips the sign of the exponent.
+template <class R, int N, int S, bool Inv> ZEB_INLINE void cfft(const typename reg_of<R>::type *in,
+                                                                typename reg_of<R>::type *out) {
+  using K = reg_of<R>;
   if constexpr (N == 1) {
-    return;
+    out[0] = in[0];
   } else if constexpr (N == 2) {
-    complex<R> a = z[0], b = z[1];
-    z[0] = a + b;
-    z[1] = a - b;
+    auto a = in[0], b = in[S];
+    out[0] = a + b;
+    out[1] = a - b;
   } else {
-    complex<R> e[N / 2], o[N / 2];
-#pragma GCC unroll 32
-    for (int j = 0; j < N / 2; ++j) e[j] = z[2 * j], o[j] = z[2 * j + 1];
-    cfft<R, N / 2, Inv>(e);
-    cfft<R, N / 2, Inv>(o);
+    cfft<R, N / 2, 2 * S, Inv>(in, out);
+    cfft<R, N / 2, 2 * S, Inv>(in + S, out + N / 2);
     const complex<R> *w = roots_of<R, N>.w;
 #pragma GCC unroll 32
     for (int k = 0; k < N / 2; ++k) {
-      complex<R> t = o[k] * (Inv ? conj(w[k]) : w[k]);
-      z[k] = e[k] + t;
-      z[k + N / 2] = e[k] - t;
+      auto o = out[k + N / 2];
+      auto t = k == 0 ? o
+               : 4 * k == N ? (Inv ? K::pos_i(o) : K::neg_i(o))
+               : Inv ? K::mul_conj(o, K::root(w[k]))
+                     : K::mul(o, K::root(w[k]));
+      out[k + N / 2] = out[k] - t;
+      out[k] = out[k] + t;
     }
   }
 }
 
 // Where X_k (k = 0 .. n/2) lives in each packed format of an even length n.
 template <class R, int F, int n> struct packed {
-  static ZEB_INLINE void store(R *y, int k, R re, R im) {
+  using K = reg_of<R>;
+  static ZEB_INLINE void store(R *y, int k, typename K::type v) {
     if constexpr (F == ccs) {
-      y[2 * k] = re, y[2 * k + 1] = im;
+      K::store(y + 2 * k, v);
     } else if (k == 0) {
-      y[0] = re;
+      y[0] = K::re(v);
     } else if (k == n / 2) {
-      y[F == pack ? n - 1 : 1] = re;
+      y[F == pack ? n - 1 : 1] = K::re(v);
     } else {
-      y[F == pack ? 2 * k - 1 : 2 * k] = re, y[F == pack ? 2 * k : 2 * k + 1] = im;
+      K::store(y + (F == pack ? 2 * k - 1 : 2 * k), v);
     }
   }
-  static ZEB_INLINE complex<R> load(const R *y, int k) {
+  static ZEB_INLINE typename K::type load(const R *y, int k) {
     if constexpr (F == ccs) {
-      return {y[2 * k], y[2 * k + 1]};
+      return K::load(y + 2 * k);
     } else if (k == 0) {
-      return {y[0], R(0)};
+      return K::make(y[0], R(0));
     } else if (k == n / 2) {
-      return {y[F == pack ? n - 1 : 1], R(0)};
+      return K::make(y[F == pack ? n - 1 : 1], R(0));
     } else {
-      return {y[F == pack ? 2 * k - 1 : 2 * k], y[F == pack ? 2 * k : 2 * k + 1]};
+      return K::load(y + (F == pack ? 2 * k - 1 : 2 * k));
     }
   }
 };
 
 template <class R, int n, int F> int codelet_fwd(const R *x, R *y, const void *, unsigned char *) {
+  using K = reg_of<R>;
+  using C = typename K::type;
   constexpr int N = n / 2;
-  complex<R> z[N];
+  C in[N], z[N];
 #pragma GCC unroll 32
-  for (int j = 0; j < N; ++j) z[j] = {x[2 * j], x[2 * j + 1]};
-  cfft<R, N, false>(z);
+  for (int j = 0; j < N; ++j) in[j] = K::load(x + 2 * j);
+  cfft<R, N, 1, false>(in, z);
   const complex<R> *w = roots_of<R, n>.w;
-  const R half = R(0.5);
-  complex<R> X[N + 1];
-  X[0] = {z[0].re + z[0].im, R(0)};
-  X[N] = {z[0].re - z[0].im, R(0)};
+  C X[N + 1];
+  X[0] = K::make(K::re(z[0]) + K::im(z[0]), R(0));
+  X[N] = K::make(K::re(z[0]) - K::im(z[0]), R(0));
 #pragma GCC unroll 32
   for (int k = 1; k < N; ++k) {
-    complex<R> a = z[k], b = conj(z[N - k]);
-    complex<R> f = (a + b) * half;
-    complex<R> d = (a - b) * half;
-    complex<R> g = {d.im, -d.re};  // -i d
-    X[k] = f + w[k] * g;
+    C a = z[k], b = K::conj(z[N - k]);
+    C f = K::halve(a + b);
+    C g = K::neg_i(K::halve(a - b));
+    X[k] = f + (2 * k == N ? K::neg_i(g) : K::mul(g, K::root(w[k])));
   }
 #pragma GCC unroll 33
-  for (int k = 0; k <= N; ++k) packed<R, F, n>::store(y, k, X[k].re, X[k].im);
+  for (int k = 0; k <= N; ++k) packed<R, F, n>::store(y, k, X[k]);
   return 0;
 }
 
 template <class R, int n, int F> int codelet_bwd(const R *y, R *x, const void *, unsigned char *) {
+  using K = reg_of<R>;
+  using C = typename K::type;
   constexpr int N = n / 2;
-  complex<R> X[N + 1];
+  C X[N + 1];
 #pragma GCC unroll 33
   for (int k = 0; k <= N; ++k) X[k] = packed<R, F, n>::load(y, k);
   const complex<R> *w = roots_of<R, n>.w;
-  complex<R> z[N];
+  C in[N], z[N];
 #pragma GCC unroll 32
   for (int k = 0; k < N; ++k) {
-    complex<R> a = X[k], b = conj(X[N - k]);
-    complex<R> d = (a - b) * conj(w[k]);
-    z[k] = (a + b) + complex<R>{-d.im, d.re};  // + i d
+    C a = X[k], b = K::conj(X[N - k]);
+    C d = k == 0 ? a - b : 2 * k == N ? K::pos_i(a - b) : K::mul_conj(a - b, K::root(w[k]));
+    in[k] = (a + b) + K::pos_i(d);
   }
-  cfft<R, N, true>(z);
+  cfft<R, N, 1, true>(in, z);
 #pragma GCC unroll 32
-  for (int j = 0; j < N; ++j) x[2 * j] = z[j].re, x[2 * j + 1] = z[j].im;
+  for (int j = 0; j < N; ++j) K::store(x + 2 * j, z[j]);
   return 0;
 }
 

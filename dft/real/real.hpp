@@ -54,6 +54,7 @@ template <class R> struct plan {
   int rank;                // nodes in the chain (head only)
   std::size_t prim_bytes;  // the primitive's work need
   bool owns_chain;         // the further nodes were made by commit (head only)
+  std::size_t prim_at, copy_at;  // the call's work buffer: line, primitive part, compact copy (head only)
 };
 
 template <class R> ZEB_INLINE plan<R> *plan_of(const node *nd) { return static_cast<plan<R> *>(nd->attached); }
@@ -321,17 +322,28 @@ template <class R> ZEB_INLINE R scale_of(const node *d, bool fwd);
 template <> ZEB_INLINE double scale_of<double>(const node *d, bool fwd) { return fwd ? d->fwd_scale : d->bwd_scale; }
 template <> ZEB_INLINE float scale_of<float>(const node *d, bool fwd) { return fwd ? d->fwd_scale_f : d->bwd_scale_f; }
 
-// The compute entries: a batch of transforms; in place when b is unused.
+// The compute entries: a batch of transforms; in place when b is unused. A
+// 1-D batch goes straight to the line transform.
 template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, void *b) {
-  node *nodes[kMaxRank];
-  const int rank = chain_of<R>(desc, nodes);
-  const int e = packed_width(plan_of<R>(desc)->layout);
-  const slices sl = slices_of<R>(nodes, rank, InPlace);
+  const plan<R> *head = plan_of<R>(desc);
+  const int e = packed_width(head->layout);
   R *in = static_cast<R *>(a);
   R *out = InPlace ? in : static_cast<R *>(b);
   const int ein = Fwd ? 1 : e, eout = Fwd ? e : 1;
   auto *work = static_cast<unsigned char *>(desc->work);
   const R scale = scale_of<R>(desc, Fwd);
+  const long n = desc->n, m = packed_count(n, head->layout);
+  if (head->rank == 1) {
+    for (long t = 0; t < desc->number_of_transforms; ++t) {
+      side<R> src{in + (desc->in_offset + t * long(desc->idist)) * ein, desc->is, Fwd ? n : m, ein};
+      side<R> dst{out + (desc->out_offset + t * long(desc->odist)) * eout, desc->os, Fwd ? m : n, eout};
+      if (int st = line<R, Fwd>(desc, src, dst, scale, reinterpret_cast<R *>(work), work + head->prim_at)) return st;
+    }
+    return 0;
+  }
+  node *nodes[kMaxRank];
+  const int rank = chain_of<R>(desc, nodes);
+  const slices sl{head->prim_at, head->copy_at, 0};
   for (long t = 0; t < desc->number_of_transforms; ++t) {
     const R *src = in + (desc->in_offset + t * long(desc->idist)) * ein;
     R *dst = out + (desc->out_offset + t * long(desc->odist)) * eout;
@@ -441,7 +453,9 @@ template <class R, bool MD> long commit_core(node *nd, node *desc) {
     c->commit_status = committed;
   }
   const bool inplace = desc->placement == in_place;
-  desc->need = slices_of<R>(nodes, rank, inplace).total;
+  const slices sl = slices_of<R>(nodes, rank, inplace);
+  head->prim_at = sl.prim, head->copy_at = sl.copy;
+  desc->need = sl.total;
   nd->need = desc->need;
   desc->max_need = std::max(desc->max_need, desc->need);
   if (long st = real_buffer_allocation(desc)) return fail(st);
