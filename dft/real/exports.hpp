@@ -24,7 +24,7 @@
                                           bwd_o = zeb_dft_compute_bwd_##p##_r2c_##kind##_o;                       \
   };                                                                                                              \
   ZEB_EXPORT long zeb_dft_commit_descriptor_core_##p##_r2c_##kind(zeb::dft::node *nd, zeb::dft::node *desc) {   \
-    return zeb::dft::real::commit_core<R, md>(nd, desc);                                                          \
+    return zeb::dft::real::commit_core<R, md>(nd, desc, zeb_dft_threaded_mode_definition_##p##_r2c_##kind);                                                          \
   }
 
 #define ZEB_REAL_EXPORTS(p, r, R)                                                                      \

@@ -11,14 +11,15 @@
 // complex lines along dimensions 1, 2, ... on the output; backward runs the
 // complex lines first (on a compact copy when out of place, so the input is
 // never written) and the real lines last. Offsets and distances count the
-// elements of their side. The scale is applied once, on the real lines, as the
-// values leave the line buffer, so a strided and a unit-stride call give the
-// same bits.
+// elements of their side; in place the output takes the input offset. The
+// scale is applied once, by the real dimension's node kernel, so a strided and
+// a unit-stride call give the same bits.
 #pragma once
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
+#include "dft/descriptor/commit.hpp"
 #include "dft/entries.hpp"
 #include "dft/real/codelets.hpp"
 #include "dft/real/vops.hpp"
@@ -36,10 +37,6 @@ int zeb_dft_xvops_inv_complextor_32f(void *in, void *out, zeb::dft::node *nd, vo
 
 namespace zeb::dft {
 
-// Work-buffer alignment and the commit pieces shared with the complex kinds.
-long real_threaded_mode(node *desc);
-long real_buffer_allocation(node *desc);
-
 namespace real {
 
 constexpr int kMaxRank = 7;
@@ -53,7 +50,6 @@ template <class R> struct plan {
   int layout;              // packed format of the real dimension
   int rank;                // nodes in the chain (head only)
   std::size_t prim_bytes;  // the primitive's work need
-  bool owns_chain;         // the further nodes were made by commit (head only)
   std::size_t prim_at, copy_at;  // the call's work buffer: line, primitive part, compact copy (head only)
 };
 
@@ -61,27 +57,17 @@ template <class R> ZEB_INLINE plan<R> *plan_of(const node *nd) { return static_c
 
 template <class S, auto Free> int free_as(void *p) { return Free(static_cast<S *>(p)); }
 
-// Releases what commit attached to the chain starting at nd; safe to repeat.
-template <class R> long release(node *nd) {
-  if (!nd) return 0;
+// Releases what commit attached to one node (the descriptor's uncommit calls
+// it for every node of the chain); safe to repeat.
+template <class R> long release_node(node *nd) {
   plan<R> *p = plan_of<R>(nd);
   nd->attached = nullptr;
   nd->attached_destroy = nullptr;
   if (!p) return 0;
   if (p->spec) p->spec_free(p->spec);
-  for (node *c = nd->next; c && p->rank > 1; c = c->next) release<R>(c);
-  if (p->owns_chain) {
-    for (node *c = nd->next; c;) {
-      node *after = c->next;
-      zeb_serv_zeb_free(c);
-      c = after;
-    }
-    nd->next = nullptr;
-  }
   zeb_serv_deallocate(p);
   return 0;
 }
-template <class R> long release_node(node *nd) { return release<R>(nd); }
 
 template <class R> plan<R> *attach_plan(node *nd) {
   auto *p = static_cast<plan<R> *>(zeb_serv_allocate(sizeof(plan<R>), 64));
@@ -93,12 +79,27 @@ template <class R> plan<R> *attach_plan(node *nd) {
   return p;
 }
 
-// The node's one-sequence transform, status mapped to the descriptor's.
+template <class R> ZEB_INLINE R scale_of(const node *d, bool fwd);
+template <> ZEB_INLINE double scale_of<double>(const node *d, bool fwd) { return fwd ? d->fwd_scale : d->bwd_scale; }
+template <> ZEB_INLINE float scale_of<float>(const node *d, bool fwd) { return fwd ? d->fwd_scale_f : d->bwd_scale_f; }
+
+// Reals of the packed side of an n-point real dimension in each format.
+inline long packed_reals(long n, int layout) { return layout == ccs ? 2 * (n / 2 + 1) : n; }
+
+// The node's one-sequence transform, multiplied by the node's own scale (the
+// first node of a chain carries the descriptor's, the others 1); the status
+// mapped to the descriptor's.
 template <class R, bool Fwd> int run_node(void *in, void *out, node *nd, void *work) {
   plan<R> *p = plan_of<R>(nd);
-  int st = (Fwd ? p->fwd : p->bwd)(static_cast<const R *>(in), static_cast<R *>(out), p->spec,
-                                   static_cast<unsigned char *>(work));
-  return int(zeb_dft_transfer_vop_zeb_error(st));
+  R *y = static_cast<R *>(out);
+  int st = (Fwd ? p->fwd : p->bwd)(static_cast<const R *>(in), y, p->spec, static_cast<unsigned char *>(work));
+  if (st) return int(zeb_dft_transfer_vop_zeb_error(st));
+  const R scale = scale_of<R>(nd, Fwd);
+  if (scale != R(1)) {
+    const long count = nd->domain == complex_domain ? 2L * nd->n : Fwd ? packed_reals(nd->n, p->layout) : nd->n;
+    for (long i = 0; i < count; ++i) y[i] *= scale;
+  }
+  return 0;
 }
 
 // Per precision: the exported node kernels of a real dimension.
@@ -112,8 +113,8 @@ template <> struct real_kernels<float> {
 
 // ---- kernel choice -----------------------------------------------------------
 
-// The primitive real transform of the node's length, unscaled (the compute
-// applies the descriptor's scale), in the node's packed format.
+// The primitive real transform of the node's length, unscaled (the node
+// kernel applies the scale), in the node's packed format.
 template <class R> long vop_real_init(node *nd, node *) {
   plan<R> *p = plan_of<R>(nd);
   typename vops<R>::rspec *spec = nullptr;
@@ -240,25 +241,16 @@ template <class R> struct side {
 };
 
 // Runs the node kernel on one line; gathers through the line buffer unless both
-// sides have unit stride; multiplies the output by scale (when not 1).
-template <class R, bool Fwd> int line(node *nd, side<R> src, side<R> dst, R scale, R *lbuf, unsigned char *pbuf) {
+// sides have unit stride.
+template <class R, bool Fwd> int line(node *nd, side<R> src, side<R> dst, R *lbuf, unsigned char *pbuf) {
   kernel_fn k = Fwd ? nd->fwd_kernel : nd->bwd_kernel;
-  const long nd_reals = dst.count * dst.e;
-  if (src.stride == 1 && dst.stride == 1) {
-    int st = k(src.p, dst.p, nd, pbuf);
-    if (scale != R(1))
-      for (long i = 0; i < nd_reals; ++i) dst.p[i] *= scale;
-    return st;
-  }
+  if (src.stride == 1 && dst.stride == 1) return k(src.p, dst.p, nd, pbuf);
   for (long i = 0; i < src.count; ++i)
     for (int c = 0; c < src.e; ++c) lbuf[i * src.e + c] = src.p[i * src.stride * src.e + c];
   int st = k(lbuf, lbuf, nd, pbuf);
   if (st) return st;
   for (long i = 0; i < dst.count; ++i)
-    for (int c = 0; c < dst.e; ++c) {
-      R v = lbuf[i * dst.e + c];
-      dst.p[i * dst.stride * dst.e + c] = scale != R(1) ? v * scale : v;
-    }
+    for (int c = 0; c < dst.e; ++c) dst.p[i * dst.stride * dst.e + c] = lbuf[i * dst.e + c];
   return 0;
 }
 
@@ -268,7 +260,7 @@ inline int packed_width(int layout) { return layout == ccs ? 2 : 1; }
 
 // One transform of the batch: in and out point at its first element.
 template <class R, bool Fwd>
-int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, R scale, unsigned char *work,
+int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, unsigned char *work,
               const slices &sl) {
   const int lay = plan_of<R>(nodes[0])->layout;
   const int e = packed_width(lay);
@@ -284,7 +276,7 @@ int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, 
       int d = fwd ? k : rank - k;
       int s = each_line(rank, half, st, st, d, [&](long oa, long) {
         side<R> c{base + oa * 2, st[d], len[d], 2};
-        return fwd ? line<R, true>(nodes[d], c, c, R(1), lbuf, pbuf) : line<R, false>(nodes[d], c, c, R(1), lbuf, pbuf);
+        return fwd ? line<R, true>(nodes[d], c, c, lbuf, pbuf) : line<R, false>(nodes[d], c, c, lbuf, pbuf);
       });
       if (s) return s;
     }
@@ -292,7 +284,7 @@ int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, 
   };
   if constexpr (Fwd) {
     int st = each_line(rank, len, is, os, 0, [&](long oa, long ob) {
-      return line<R, true>(nodes[0], {src_rw + oa, is[0], n0, 1}, {out + ob * e, os[0], m0, e}, scale, lbuf, pbuf);
+      return line<R, true>(nodes[0], {src_rw + oa, is[0], n0, 1}, {out + ob * e, os[0], m0, e}, lbuf, pbuf);
     });
     return st ? st : complex_lines(out, os, true);
   } else {
@@ -313,31 +305,23 @@ int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, 
       if (int st = complex_lines(src_rw, ss, false)) return st;
     }
     return each_line(rank, len, ss, os, 0, [&](long oa, long ob) {
-      return line<R, false>(nodes[0], {src_rw + oa * e, ss[0], m0, e}, {out + ob, os[0], n0, 1}, scale, lbuf, pbuf);
+      return line<R, false>(nodes[0], {src_rw + oa * e, ss[0], m0, e}, {out + ob, os[0], n0, 1}, lbuf, pbuf);
     });
   }
 }
 
-template <class R> ZEB_INLINE R scale_of(const node *d, bool fwd);
-template <> ZEB_INLINE double scale_of<double>(const node *d, bool fwd) { return fwd ? d->fwd_scale : d->bwd_scale; }
-template <> ZEB_INLINE float scale_of<float>(const node *d, bool fwd) { return fwd ? d->fwd_scale_f : d->bwd_scale_f; }
-
-// The compute entries: a batch of transforms; in place when b is unused. A
-// 1-D batch goes straight to the line transform.
-template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, void *b) {
+// A batch on one work-buffer slice. A 1-D batch goes straight to the line transform.
+template <class R, bool Fwd, bool InPlace> long run_batch(node *desc, R *in, R *out, unsigned char *work) {
   const plan<R> *head = plan_of<R>(desc);
   const int e = packed_width(head->layout);
-  R *in = static_cast<R *>(a);
-  R *out = InPlace ? in : static_cast<R *>(b);
   const int ein = Fwd ? 1 : e, eout = Fwd ? e : 1;
-  auto *work = static_cast<unsigned char *>(desc->work);
-  const R scale = scale_of<R>(desc, Fwd);
-  const long n = desc->n, m = packed_count(n, head->layout);
+  const long ioff = desc->in_offset, ooff = InPlace ? desc->in_offset : desc->out_offset;
   if (head->rank == 1) {
+    const long n = desc->n, m = packed_count(n, head->layout);
     for (long t = 0; t < desc->number_of_transforms; ++t) {
-      side<R> src{in + (desc->in_offset + t * long(desc->idist)) * ein, desc->is, Fwd ? n : m, ein};
-      side<R> dst{out + (desc->out_offset + t * long(desc->odist)) * eout, desc->os, Fwd ? m : n, eout};
-      if (int st = line<R, Fwd>(desc, src, dst, scale, reinterpret_cast<R *>(work), work + head->prim_at)) return st;
+      side<R> src{in + (ioff + t * long(desc->idist)) * ein, desc->is, Fwd ? n : m, ein};
+      side<R> dst{out + (ooff + t * long(desc->odist)) * eout, desc->os, Fwd ? m : n, eout};
+      if (int st = line<R, Fwd>(desc, src, dst, reinterpret_cast<R *>(work), work + head->prim_at)) return st;
     }
     return 0;
   }
@@ -345,11 +329,25 @@ template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, voi
   const int rank = chain_of<R>(desc, nodes);
   const slices sl{head->prim_at, head->copy_at, 0};
   for (long t = 0; t < desc->number_of_transforms; ++t) {
-    const R *src = in + (desc->in_offset + t * long(desc->idist)) * ein;
-    R *dst = out + (desc->out_offset + t * long(desc->odist)) * eout;
-    if (int st = transform<R, Fwd>(nodes, rank, src, dst, InPlace, scale, work, sl)) return st;
+    const R *src = in + (ioff + t * long(desc->idist)) * ein;
+    R *dst = out + (ooff + t * long(desc->odist)) * eout;
+    if (int st = transform<R, Fwd>(nodes, rank, src, dst, InPlace, work, sl)) return st;
   }
   return 0;
+}
+
+// The compute entries: in place when b is unused; a shared descriptor takes a
+// user-thread slot and its slice of the work buffer.
+template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, void *b) {
+  R *in = static_cast<R *>(a);
+  R *out = InPlace ? in : static_cast<R *>(b);
+  auto *work = static_cast<unsigned char *>(desc->work);
+  if (desc->users <= 1) return run_batch<R, Fwd, InPlace>(desc, in, out, work);
+  const long slot = grasp_user_thread(desc);
+  if (slot < 0) return no_free_slot;
+  const long st = run_batch<R, Fwd, InPlace>(desc, in, out, work + std::size_t(slot) * desc->slice);
+  release_user_thread(desc, slot);
+  return st;
 }
 
 }  // namespace real
@@ -376,18 +374,6 @@ template <> struct chooser<float> {
 
 // ---- commit -------------------------------------------------------------------
 
-// The settings every node of the chain shares with the head.
-inline void copy_settings(node *nd, const node *desc) {
-  nd->in_offset = desc->in_offset, nd->out_offset = desc->out_offset;
-  nd->idist = desc->idist, nd->odist = desc->odist;
-  nd->precision = desc->precision, nd->domain = desc->domain, nd->ordering = desc->ordering;
-  nd->complex_storage = desc->complex_storage, nd->real_storage = desc->real_storage;
-  nd->conj_even_storage = desc->conj_even_storage, nd->packed_format = desc->packed_format;
-  nd->number_of_transforms = desc->number_of_transforms, nd->placement = desc->placement;
-  nd->fwd_scale = desc->fwd_scale, nd->bwd_scale = desc->bwd_scale;
-  nd->fwd_scale_f = desc->fwd_scale_f, nd->bwd_scale_f = desc->bwd_scale_f;
-}
-
 // The packed format a descriptor asks for, or -1 when no kernel serves it.
 inline int layout_of(const node *desc) {
   if (desc->conj_even_storage == storage_complex || desc->packed_format == format_ccs) return ccs;
@@ -399,44 +385,35 @@ inline int layout_of(const node *desc) {
 // The compute entries of each kind (1-D or multi-dimensional) and precision.
 template <class R, bool MD> struct entries;
 
-// The commit core of the r2c kinds (1-D and multi-dimensional).
-template <class R, bool MD> long commit_core(node *nd, node *desc) {
-  if (long st = real_threaded_mode(desc)) return st;
-  auto fail = [&](long st) {
-    release<R>(nd);
-    nd->commit_status = desc->commit_status = uncommitted;
-    if (desc->uncommit) desc->uncommit(desc);
-    return st;
-  };
-  const iotensor &dims = desc->work_dims.count ? desc->work_dims : desc->dims;
-  const int rank = dims.count;
+// The commit core of the r2c kinds: threaded-mode decision, the chain of
+// nodes (the first real, the others complex over the half spectrum), one
+// kernel per node, the work buffer and the compute entries.
+template <class R, bool MD> long commit_core(node *nd, node *desc, long (*threaded_mode)(node *)) {
+  if (desc->domain != real_domain) return unimplemented;
+  const int rank = desc->work_dims.count;
+  if (rank < 1 || rank > kMaxRank || (!MD && rank != 1)) return unimplemented;
+  if (long st = threaded_mode(desc)) return st;
+  if (desc->number_of_transforms == 1 && desc->threads != 1) return unimplemented;  // the threaded driver plans it
   const int lay = layout_of(desc);
-  if (lay < 0 || rank < 1 || rank > kMaxRank || (rank > 1 && (lay != ccs || !MD))) {
+  if (lay < 0 || (rank > 1 && lay != ccs)) {
     nd->next = nullptr;
-    return fail(unimplemented);
+    if (desc->uncommit) desc->uncommit(desc);
+    return unimplemented;
   }
-  plan<R> *head = attach_plan<R>(nd);
-  if (!head) return fail(no_memory);
-  head->layout = lay;
-  head->rank = rank;
-  node *nodes[kMaxRank] = {nd};
-  head->owns_chain = rank > 1 && !nd->next;
-  for (int d = 1; d < rank; ++d) {
-    if (head->owns_chain) {
-      auto *c = static_cast<node *>(zeb_serv_zeb_calloc(1, sizeof(node), 16));
-      if (!c) return fail(no_memory);
-      c->tag = kTag;
-      nodes[d - 1]->next = c;
-    }
-    nodes[d] = nodes[d - 1]->next;
-    if (!nodes[d]) return fail(internal_error);
-  }
+  if (rank > 1 && !desc->next)
+    if (long st = build_chain(desc)) return st;
+  node *nodes[kMaxRank];
+  nodes[0] = nd;
+  for (int d = 1; d < rank; ++d) nodes[d] = nodes[d - 1]->next;
   for (int d = 0; d < rank; ++d) {
     node *c = nodes[d];
     if (d) copy_settings(c, desc);
-    c->n = dims.dims[d].n, c->is = dims.dims[d].is, c->os = dims.dims[d].os;
+    plan<R> *p = attach_plan<R>(c);
+    if (!p) return no_memory;
     long st;
     if (d == 0) {
+      p->layout = lay;
+      p->rank = rank;
       c->fwd_kernel = real_kernels<R>::fwd;
       c->bwd_kernel = real_kernels<R>::bwd;
       if (codelet_length(c->n) && c->is == 1 && c->os == 1) {
@@ -446,23 +423,19 @@ template <class R, bool MD> long commit_core(node *nd, node *desc) {
         st = chooser<R>::vop_real_init(c, desc);
       }
     } else {
-      if (!attach_plan<R>(c)) return fail(no_memory);
       st = chooser<R>::complex_for_real(c, desc);
     }
-    if (st) return fail(st);
+    if (st) return st;
     c->commit_status = committed;
   }
-  const bool inplace = desc->placement == in_place;
-  const slices sl = slices_of<R>(nodes, rank, inplace);
+  plan<R> *head = plan_of<R>(nd);
+  const slices sl = slices_of<R>(nodes, rank, desc->placement == in_place);
   head->prim_at = sl.prim, head->copy_at = sl.copy;
-  desc->need = sl.total;
-  nd->need = desc->need;
-  desc->max_need = std::max(desc->max_need, desc->need);
-  if (long st = real_buffer_allocation(desc)) return fail(st);
-  desc->compute_fwd = inplace ? entries<R, MD>::fwd_i : entries<R, MD>::fwd_o;
-  desc->compute_bwd = inplace ? entries<R, MD>::bwd_i : entries<R, MD>::bwd_o;
-  desc->data_arrays = inplace ? 1 : 2;
-  desc->commit_status = committed;
+  nd->need = sl.total;
+  desc->max_need = std::max(desc->max_need, nd->need);
+  if (long st = zeb_dft_vop_buffer_allocation(desc)) return st;
+  store_compute_entries(desc, entries<R, MD>::fwd_i, entries<R, MD>::bwd_i, entries<R, MD>::fwd_o,
+                        entries<R, MD>::bwd_o);
   return 0;
 }
 

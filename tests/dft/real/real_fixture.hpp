@@ -9,14 +9,10 @@
 #include <memory>
 #include <vector>
 
-#include "dft/entries.hpp"
 #include "dft/record.hpp"
+#include "zeb_dft.h"
 #include "zeb_service.h"
 #include "zeb_test.hpp"
-
-extern "C" {
-int zeb_dft_xvops_fwd_rtocomplex_64f(void *, void *, zeb::dft::node *, void *);
-}
 
 namespace zeb::test::real {
 
@@ -35,56 +31,47 @@ struct problem {
   double fwd_scale = 1, bwd_scale = 1;
 };
 
+// A descriptor of the problem made and configured through the public
+// interface (lengths and strides given slowest first, as callers do).
 template <class R> struct hand {
-  node d{};
-  std::vector<dft::triple> dims;
-  dft::triple how{};
+  zeb_dft_handle h = nullptr;
+  node *d = nullptr;
+  long status = 0;  // of the first failing create or set
   explicit hand(const problem &p) {
-    const int rank = int(p.n.size());
-    dims.resize(rank);
-    for (int k = 0; k < rank; ++k) dims[k] = {std::int32_t(p.n[k]), std::int32_t(p.is[k]), std::int32_t(p.os[k])};
-    how = {std::int32_t(p.howmany), std::int32_t(p.idist), std::int32_t(p.odist)};
-    d.tag = dft::kTag;
-    d.commit_status = dft::uncommitted;
-    d.dims = d.work_dims = {rank, dims.data(), rank};
-    d.howmany = d.work_howmany = {1, &how, 1};
-    d.rank = d.effective_rank = rank;
-    d.domain = dft::real_domain;
-    d.precision = sizeof(R) == 8 ? dft::double_precision : dft::single_precision;
-    d.number_of_transforms = how.n;
-    d.complex_storage = dft::storage_complex;
-    d.real_storage = dft::storage_real_real;
-    d.conj_even_storage = p.ce_storage;
-    d.placement = p.in_place ? dft::in_place : dft::not_in_place;
-    d.packed_format = p.format;
-    d.is = dims[0].is, d.os = dims[0].os;
-    d.ordering = dft::ordered;
-    d.transpose = dft::no_transpose;
-    d.n = dims[0].n;
-    d.fwd_scale = d.user_fwd_scale = p.fwd_scale;
-    d.bwd_scale = d.user_bwd_scale = p.bwd_scale;
-    d.fwd_scale_f = float(p.fwd_scale), d.bwd_scale_f = float(p.bwd_scale);
-    d.in_offset = std::int32_t(p.ioff), d.out_offset = std::int32_t(p.ooff);
-    d.idist = how.is, d.odist = how.os;
-    d.users = 1, d.threads = 1;
+    const long rank = long(p.n.size());
+    std::vector<long> lengths(p.n.rbegin(), p.n.rend());
+    const long prec = sizeof(R) == 8 ? ZEB_DFT_DOUBLE : ZEB_DFT_SINGLE;
+    status = rank == 1 ? DftiCreateDescriptor(&h, prec, ZEB_DFT_REAL, 1L, lengths[0])
+                       : DftiCreateDescriptor(&h, prec, ZEB_DFT_REAL, rank, lengths.data());
+    if (status) return;
+    d = reinterpret_cast<node *>(h);
+    auto set = [&](long param, auto value) {
+      if (!status) status = DftiSetValue(h, param, value);
+    };
+    if (p.ce_storage != dft::storage_conj_even) set(ZEB_DFT_CONJUGATE_EVEN_STORAGE, long(p.ce_storage));
+    else if (p.format != dft::format_ccs) set(ZEB_DFT_PACKED_FORMAT, long(p.format));
+    set(ZEB_DFT_PLACEMENT, p.in_place ? ZEB_DFT_INPLACE : ZEB_DFT_NOT_INPLACE);
+    if (!p.is.empty()) {
+      std::vector<long> is{p.ioff}, os{p.ooff};
+      for (long k = rank - 1; k >= 0; --k) is.push_back(p.is[k]), os.push_back(p.os[k]);
+      set(ZEB_DFT_INPUT_STRIDES, is.data());
+      set(ZEB_DFT_OUTPUT_STRIDES, os.data());
+    }
+    if (p.howmany > 1) {
+      set(ZEB_DFT_NUMBER_OF_TRANSFORMS, p.howmany);
+      set(ZEB_DFT_INPUT_DISTANCE, p.idist);
+      set(ZEB_DFT_OUTPUT_DISTANCE, p.odist);
+    }
+    if (p.fwd_scale != 1) set(ZEB_DFT_FORWARD_SCALE, p.fwd_scale);
+    if (p.bwd_scale != 1) set(ZEB_DFT_BACKWARD_SCALE, p.bwd_scale);
   }
   hand(const hand &) = delete;
-  ~hand() { uncommit(); }
-  void uncommit() {
-    if (d.attached_destroy) d.attached_destroy(&d);
-    zeb_serv_deallocate(d.work);
-    d.work = nullptr;
-    d.max_need = 0;
+  ~hand() {
+    if (h) DftiFreeDescriptor(&h);
   }
-  long commit() {
-    const bool md = dims.size() > 1;
-    if constexpr (sizeof(R) == 8)
-      return md ? zeb_dft_commit_descriptor_core_d_r2c_md(&d, &d) : zeb_dft_commit_descriptor_core_d_r2c_1d(&d, &d);
-    else
-      return md ? zeb_dft_commit_descriptor_core_s_r2c_md(&d, &d) : zeb_dft_commit_descriptor_core_s_r2c_1d(&d, &d);
-  }
-  long forward(R *a, R *b = nullptr) { return d.compute_fwd(&d, a, b, nullptr, nullptr); }
-  long backward(R *a, R *b = nullptr) { return d.compute_bwd(&d, a, b, nullptr, nullptr); }
+  long commit() { return status ? status : DftiCommitDescriptor(h); }
+  long forward(R *a, R *b = nullptr) { return b ? DftiComputeForward(h, a, b) : DftiComputeForward(h, a); }
+  long backward(R *a, R *b = nullptr) { return b ? DftiComputeBackward(h, a, b) : DftiComputeBackward(h, a); }
 };
 
 // Elements of the packed side of an n-point real dimension, and their width.

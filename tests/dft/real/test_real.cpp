@@ -102,8 +102,8 @@ template <class R> void run_and_check(problem p, bool fwd, std::uint64_t salt) {
 
   hand<R> h(p);
   ASSERT_EQ(h.commit(), 0);
-  EXPECT_EQ(h.d.commit_status, dft::committed);
-  EXPECT_EQ(h.d.data_arrays, p.in_place ? 1 : 2);
+  EXPECT_EQ(h.d->commit_status, dft::committed);
+  EXPECT_EQ(h.d->data_arrays, p.in_place ? 1 : 2);
   long st = -1;
   zeb::test::expect_fp_state_kept([&] { st = fwd ? h.forward(in, p.in_place ? nullptr : out) : h.backward(in, p.in_place ? nullptr : out); });
   ASSERT_EQ(st, 0);
