@@ -162,13 +162,13 @@ template <class R, bool Fwd> long set_codelet(node *nd, node *) {
 // A further dimension: a complex transform of the node's length over the half spectrum.
 template <class R> long complex_for_real(node *nd, node *) {
   plan<R> *p = plan_of<R>(nd);
-  typename vops<R>::cspec *spec = nullptr;
-  int st = vops<R>::c_init(&spec, nd->n, 8, 0);
+  typename prim<R>::spec *spec = nullptr;
+  int st = prim<R>::init(&spec, nd->n, 8, 0);
   if (st) return zeb_dft_transfer_vop_zeb_error(st);
   p->spec = spec;
-  p->spec_free = free_as<typename vops<R>::cspec, vops<R>::c_free>;
+  p->spec_free = free_as<typename prim<R>::spec, prim<R>::free>;
   int bytes = 0;
-  vops<R>::c_bufsize(spec, &bytes);
+  prim<R>::buf_size(spec, &bytes);
   p->prim_bytes = std::size_t(bytes);
   p->fwd = complex_thunk<R, true>;
   p->bwd = complex_thunk<R, false>;

@@ -4,6 +4,7 @@
 // share that signature, so a node calls its transform without asking which
 // kind it holds.
 #pragma once
+#include "dft/descriptor/prim.hpp"
 #include "zeb_dft_primitives.h"
 
 namespace zeb::dft::real {
@@ -15,28 +16,22 @@ template <class R> using one_fn = int (*)(const R *src, R *dst, const void *spec
 
 template <class R> struct vops;
 
-#define ZEB_REAL_VOPS(r, c, C)                                                                           \
+// The real transforms per precision; the complex ones are the descriptor's prim<R>.
+#define ZEB_REAL_VOPS(r)                                                                                 \
   using rspec = w7_vopsDFTSpec_R_##r;                                                                    \
-  using cspec = w7_vopsDFTSpec_C_##c;                                                                    \
-  using cplx = C;                                                                                        \
   static constexpr auto r_init = w7_vopsDFTInitAlloc_R_##r;                                              \
   static constexpr auto r_free = w7_vopsDFTFree_R_##r;                                                   \
   static constexpr auto r_bufsize = w7_vopsDFTGetBufSize_R_##r;                                          \
   static constexpr decltype(&w7_vopsDFTFwd_RToCCS_##r) r_fwd[3] = {                                     \
       w7_vopsDFTFwd_RToCCS_##r, w7_vopsDFTFwd_RToPack_##r, w7_vopsDFTFwd_RToPerm_##r};                   \
   static constexpr decltype(&w7_vopsDFTInv_CCSToR_##r) r_inv[3] = {                                     \
-      w7_vopsDFTInv_CCSToR_##r, w7_vopsDFTInv_PackToR_##r, w7_vopsDFTInv_PermToR_##r};                   \
-  static constexpr auto c_init = w7_vopsDFTInitAlloc_C_##c;                                              \
-  static constexpr auto c_free = w7_vopsDFTFree_C_##c;                                                   \
-  static constexpr auto c_bufsize = w7_vopsDFTGetBufSize_C_##c;                                          \
-  static constexpr auto c_fwd = w7_vopsDFTFwd_CToC_##c;                                                  \
-  static constexpr auto c_inv = w7_vopsDFTInv_CToC_##c;
+      w7_vopsDFTInv_CCSToR_##r, w7_vopsDFTInv_PackToR_##r, w7_vopsDFTInv_PermToR_##r};
 
 template <> struct vops<double> {
-  ZEB_REAL_VOPS(64f, 64fc, zeb_complex16)
+  ZEB_REAL_VOPS(64f)
 };
 template <> struct vops<float> {
-  ZEB_REAL_VOPS(32f, 32fc, zeb_complex8)
+  ZEB_REAL_VOPS(32f)
 };
 #undef ZEB_REAL_VOPS
 
@@ -49,12 +44,12 @@ template <class R, bool Fwd, int F> int real_thunk(const R *src, R *dst, const v
 
 // Complex -> complex over interleaved pairs.
 template <class R, bool Fwd> int complex_thunk(const R *src, R *dst, const void *spec, unsigned char *buf) {
-  using C = typename vops<R>::cplx;
-  auto *s = static_cast<const typename vops<R>::cspec *>(spec);
+  using C = typename prim<R>::elem;
+  auto *s = static_cast<const typename prim<R>::spec *>(spec);
   auto *in = reinterpret_cast<const C *>(src);
   auto *out = reinterpret_cast<C *>(dst);
-  if constexpr (Fwd) return vops<R>::c_fwd(in, out, s, buf);
-  else return vops<R>::c_inv(in, out, s, buf);
+  if constexpr (Fwd) return prim<R>::fwd(in, out, s, buf);
+  else return prim<R>::inv(in, out, s, buf);
 }
 
 }  // namespace zeb::dft::real

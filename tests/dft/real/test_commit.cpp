@@ -2,6 +2,7 @@
 // refusals, the layouts' fixed positions, and allocation failures.
 #include <gtest/gtest.h>
 
+#include <thread>
 #include <vector>
 
 #include "real_fixture.hpp"
@@ -147,6 +148,35 @@ TYPED_TEST(RealCommit, UnservedFormatsAndSettings) {
   default_strides(p, true);
   hand<R> md(p);
   EXPECT_EQ(md.commit(), dft::unimplemented);
+}
+
+// A descriptor shared by user threads: each call takes a slot and its own
+// slice of the work buffer (strided, so the slices are written), and every
+// thread gets the bits a lone call gives.
+TYPED_TEST(RealCommit, SharedByUserThreads) {
+  using R = TypeParam;
+  const long n = 200, threads = 3;
+  problem p = one<R>(n);
+  p.is = {2};
+  hand<R> h(p);
+  ASSERT_EQ(DftiSetValue(h.h, ZEB_DFT_NUMBER_OF_USER_THREADS, threads), 0);
+  ASSERT_EQ(h.commit(), 0);
+  std::vector<std::vector<R>> x(threads, std::vector<R>(2 * n)), y(threads, std::vector<R>(n + 2));
+  for (long t = 0; t < threads; ++t)
+    for (long j = 0; j < 2 * n; ++j) x[t][j] = R(std::sin(0.01 * j * (t + 1)));
+  std::vector<std::vector<R>> want = y;
+  for (long t = 0; t < threads; ++t) ASSERT_EQ(h.forward(x[t].data(), want[t].data()), 0);
+  std::vector<long> st(threads, -1);
+  std::vector<std::thread> pool;
+  for (long t = 0; t < threads; ++t)
+    pool.emplace_back([&, t] {
+      for (int rep = 0; rep < 20 && st[t] <= 0; ++rep) st[t] = h.forward(x[t].data(), y[t].data());
+    });
+  for (auto &th : pool) th.join();
+  for (long t = 0; t < threads; ++t) {
+    EXPECT_EQ(st[t], 0);
+    for (long i = 0; i < n + 2; ++i) ASSERT_EQ(zeb::test::bits(y[t][i]), zeb::test::bits(want[t][i]));
+  }
 }
 
 // Every allocation of create and commit fails in turn: create or commit

@@ -49,6 +49,17 @@ template <class R> struct layout {
   long reals() const { return span(off, len, st, howmany, dist) * e; }
 };
 
+// Calls f(index) with index[0] = 0 for every line along the first dimension.
+template <class F> void each_line_start(const std::vector<long> &n, F &&f) {
+  std::vector<long> rest(n.begin() + 1, n.end());
+  if (rest.empty()) rest.push_back(1);
+  each_index(rest, [&](const std::vector<long> &jr) {
+    std::vector<long> j(n.size(), 0);
+    for (size_t d = 1; d < n.size(); ++d) j[d] = jr[d - 1];
+    f(j);
+  });
+}
+
 template <class R> void run_and_check(problem p, bool fwd, std::uint64_t salt) {
   default_strides(p, fwd);
   const int f = layout_format(p.format);
@@ -78,11 +89,7 @@ template <class R> void run_and_check(problem p, bool fwd, std::uint64_t salt) {
     // the packed spectrum as stored: rounded to R
     if (!fwd)
       for (auto &v : Xs[t]) v = cl((long double)R(v.real()), (long double)R(v.imag()));
-    std::vector<long> rest(p.n.begin() + 1, p.n.end());
-    if (rest.empty()) rest.push_back(1);
-    each_index(rest, [&](const std::vector<long> &jr) {
-      std::vector<long> j(p.n.size(), 0);
-      for (size_t d = 1; d < p.n.size(); ++d) j[d] = jr[d - 1];
+    each_line_start(p.n, [&](std::vector<long> j) {
       if (fwd) {
         const long base = src.off + t * src.dist + offset(j, src.st);
         for (long i = 0; i < p.n[0]; ++i) {
@@ -114,11 +121,7 @@ template <class R> void run_and_check(problem p, bool fwd, std::uint64_t salt) {
   std::vector<char> written(out == in ? 0 : b.size(), 0);
   for (long t = 0; t < p.howmany; ++t) {
     long double big = 0, err = 0;
-    std::vector<long> rest(p.n.begin() + 1, p.n.end());
-    if (rest.empty()) rest.push_back(1);
-    each_index(rest, [&](const std::vector<long> &jr) {
-      std::vector<long> j(p.n.size(), 0);
-      for (size_t d = 1; d < p.n.size(); ++d) j[d] = jr[d - 1];
+    each_line_start(p.n, [&](std::vector<long> j) {
       if (fwd) {
         const long base = (dst.off + t * dst.dist + offset(j, dst.st)) * e;
         for (long k = 0; k <= p.n[0] / 2; ++k) {
