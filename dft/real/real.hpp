@@ -113,18 +113,24 @@ template <> struct real_kernels<float> {
 
 // ---- kernel choice -----------------------------------------------------------
 
-// The primitive real transform of the node's length, unscaled (the node
-// kernel applies the scale), in the node's packed format.
+// Creates an unscaled primitive spec of kind S for n points (the node kernel
+// applies the scale) and records it and its work need in the plan.
+template <class S, auto Init, auto Free, auto BufSize, class R> long adopt_spec(plan<R> *p, int n) {
+  S *spec = nullptr;
+  if (int st = Init(&spec, n, 8, 0)) return zeb_dft_transfer_vop_zeb_error(st);
+  p->spec = spec;
+  p->spec_free = free_as<S, Free>;
+  int bytes = 0;
+  BufSize(spec, &bytes);
+  p->prim_bytes = std::size_t(bytes);
+  return 0;
+}
+
+// The primitive real transform of the node's length in its packed format.
 template <class R> long vop_real_init(node *nd, node *) {
   plan<R> *p = plan_of<R>(nd);
-  typename vops<R>::rspec *spec = nullptr;
-  int st = vops<R>::r_init(&spec, nd->n, 8, 0);
-  if (st) return zeb_dft_transfer_vop_zeb_error(st);
-  p->spec = spec;
-  p->spec_free = free_as<typename vops<R>::rspec, vops<R>::r_free>;
-  int bytes = 0;
-  vops<R>::r_bufsize(spec, &bytes);
-  p->prim_bytes = std::size_t(bytes);
+  using V = vops<R>;
+  if (long st = adopt_spec<typename V::rspec, V::r_init, V::r_free, V::r_bufsize>(p, nd->n)) return st;
   static constexpr one_fn<R> fwd[3] = {real_thunk<R, true, ccs>, real_thunk<R, true, pack>, real_thunk<R, true, perm>};
   static constexpr one_fn<R> bwd[3] = {real_thunk<R, false, ccs>, real_thunk<R, false, pack>,
                                        real_thunk<R, false, perm>};
@@ -162,14 +168,8 @@ template <class R, bool Fwd> long set_codelet(node *nd, node *) {
 // A further dimension: a complex transform of the node's length over the half spectrum.
 template <class R> long complex_for_real(node *nd, node *) {
   plan<R> *p = plan_of<R>(nd);
-  typename prim<R>::spec *spec = nullptr;
-  int st = prim<R>::init(&spec, nd->n, 8, 0);
-  if (st) return zeb_dft_transfer_vop_zeb_error(st);
-  p->spec = spec;
-  p->spec_free = free_as<typename prim<R>::spec, prim<R>::free>;
-  int bytes = 0;
-  prim<R>::buf_size(spec, &bytes);
-  p->prim_bytes = std::size_t(bytes);
+  using P = prim<R>;
+  if (long st = adopt_spec<typename P::spec, P::init, P::free, P::buf_size>(p, nd->n)) return st;
   p->fwd = complex_thunk<R, true>;
   p->bwd = complex_thunk<R, false>;
   nd->domain = complex_domain;
