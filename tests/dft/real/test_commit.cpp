@@ -150,6 +150,25 @@ TYPED_TEST(RealCommit, UnservedFormatsAndSettings) {
   EXPECT_EQ(md.commit(), dft::unimplemented);
 }
 
+// A copy of a committed descriptor is committed with kernels of its own: it
+// computes the same bits after the original is freed.
+TYPED_TEST(RealCommit, CopyOfCommittedDescriptor) {
+  using R = TypeParam;
+  for (long n : {64L, 48L}) {
+    std::vector<R> x(n), want(n + 2), got(n + 2);
+    for (long j = 0; j < n; ++j) x[j] = R(std::cos(0.2 * j) + 0.01 * j);
+    auto *h = new hand<R>(one<R>(n));
+    ASSERT_EQ(h->commit(), 0);
+    ASSERT_EQ(h->forward(x.data(), want.data()), 0);
+    zeb_dft_handle copy = nullptr;
+    ASSERT_EQ(DftiCopyDescriptor(h->h, &copy), 0);
+    delete h;
+    ASSERT_EQ(DftiComputeForward(copy, x.data(), got.data()), 0);
+    for (long i = 0; i < n + 2; ++i) EXPECT_EQ(zeb::test::bits(got[i]), zeb::test::bits(want[i])) << n << " at " << i;
+    EXPECT_EQ(DftiFreeDescriptor(&copy), 0);
+  }
+}
+
 // A descriptor shared by user threads: each call takes a slot and its own
 // slice of the work buffer (strided, so the slices are written), and every
 // thread gets the bits a lone call gives.

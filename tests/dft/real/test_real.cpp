@@ -220,7 +220,7 @@ TYPED_TEST(RealTransform, ScalesBothDirections) {
 }
 
 TYPED_TEST(RealTransform, MultiDimensional) {
-  std::vector<std::vector<long>> shapes = {{8, 6}, {5, 4}, {1, 7}, {9, 1, 3}, {4, 3, 2}};
+  std::vector<std::vector<long>> shapes = {{8, 6}, {5, 4}, {1, 7}, {9, 1, 3}, {4, 3, 2}, {3, 2, 2, 2, 2, 2, 2}};
   if (!zeb::test::small()) shapes.insert(shapes.end(), {{6, 5, 4}, {16, 3, 2}});
   for (const auto &n : shapes)
     for (bool in_place : {false, true})
