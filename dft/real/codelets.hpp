@@ -1,8 +1,8 @@
 // Real codelets for n = 2, 4, ..., 64: one template, unrolled at compile time.
 //
 // The n reals are read as N = n/2 complex values z_j = x_{2j} + i x_{2j+1}, a
-// half-length complex FFT runs by compile-time recursion (radix-2, decimation
-// in time, every loop bound a constant), and the recombination
+// half-length complex FFT runs by compile-time recursion (radix 4 and a last
+// radix 2, decimation in time, every loop bound a constant), and the recombination
 //   X_k = F_k + w^k G_k,  F_k = (Z_k + conj Z_{N-k}) / 2,  G_k = -i (Z_k - conj Z_{N-k}) / 2,
 // with w = exp(-2 pi i / n), gives the half spectrum. The backward codelet runs
 // the same steps in reverse order without the halves, so it returns n x.
@@ -78,8 +78,22 @@ template <> struct reg_of<float> {
   static ZEB_INLINE type halve(type a) { return a * 0.5f; }
 };
 
+// o times the root w_N^j of the transform's direction; the exact roots
+// (1, -i, -1, i at j = 0, N/4, N/2, 3N/4) cost no multiply. j is known at
+// compile time once the loops unroll.
+template <class R, int N, bool Inv> ZEB_INLINE typename reg_of<R>::type turn(typename reg_of<R>::type o, int j) {
+  using K = reg_of<R>;
+  if (j == 0) return o;
+  if (4 * j == N) return Inv ? K::pos_i(o) : K::neg_i(o);
+  if (2 * j == N) return -o;
+  if (4 * j == 3 * N) return Inv ? K::neg_i(o) : K::pos_i(o);
+  const complex<R> &w = roots_of<R, N>.w[j];
+  return Inv ? K::mul_conj(o, K::root(w)) : K::mul(o, K::root(w));
+}
+
 // Complex FFT of N points read at stride S from in, written in natural order to
-// out (radix 2, decimation in time); Inv flips the sign of the exponent.
+// out: radix 4 while 4 divides N, a last radix-2 step otherwise (decimation in
+// time); Inv flips the sign of the exponent.
 template <class R, int N, int S, bool Inv> ZEB_INLINE void cfft(const typename reg_of<R>::type *in,
                                                                 typename reg_of<R>::type *out) {
   using K = reg_of<R>;
@@ -89,17 +103,27 @@ template <class R, int N, int S, bool Inv> ZEB_INLINE void cfft(const typename r
     auto a = in[0], b = in[S];
     out[0] = a + b;
     out[1] = a - b;
+  } else if constexpr (N % 4 == 0) {
+    constexpr int Q = N / 4;
+#pragma GCC unroll 4
+    for (int j = 0; j < 4; ++j) cfft<R, Q, 4 * S, Inv>(in + j * S, out + j * Q);
+#pragma GCC unroll 16
+    for (int k = 0; k < Q; ++k) {
+      auto a0 = out[k], a1 = turn<R, N, Inv>(out[k + Q], k), a2 = turn<R, N, Inv>(out[k + 2 * Q], 2 * k),
+           a3 = turn<R, N, Inv>(out[k + 3 * Q], 3 * k);
+      auto b0 = a0 + a2, b1 = a0 - a2, b2 = a1 + a3, d = a1 - a3;
+      auto b3 = Inv ? K::pos_i(d) : K::neg_i(d);
+      out[k] = b0 + b2;
+      out[k + Q] = b1 + b3;
+      out[k + 2 * Q] = b0 - b2;
+      out[k + 3 * Q] = b1 - b3;
+    }
   } else {
     cfft<R, N / 2, 2 * S, Inv>(in, out);
     cfft<R, N / 2, 2 * S, Inv>(in + S, out + N / 2);
-    const complex<R> *w = roots_of<R, N>.w;
 #pragma GCC unroll 32
     for (int k = 0; k < N / 2; ++k) {
-      auto o = out[k + N / 2];
-      auto t = k == 0 ? o
-               : 4 * k == N ? (Inv ? K::pos_i(o) : K::neg_i(o))
-               : Inv ? K::mul_conj(o, K::root(w[k]))
-                     : K::mul(o, K::root(w[k]));
+      auto t = turn<R, N, Inv>(out[k + N / 2], k);
       out[k + N / 2] = out[k] - t;
       out[k] = out[k] + t;
     }

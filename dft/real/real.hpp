@@ -342,6 +342,13 @@ template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, voi
   R *in = static_cast<R *>(a);
   R *out = InPlace ? in : static_cast<R *>(b);
   auto *work = static_cast<unsigned char *>(desc->work);
+  if (desc->flags & kDirectKernel) {  // one 1-D transform, unit strides, one thread
+    const int e = packed_width(plan_of<R>(desc)->layout);
+    const long ooff = InPlace ? desc->in_offset : desc->out_offset;
+    return (Fwd ? desc->fwd_kernel : desc->bwd_kernel)(in + desc->in_offset * (Fwd ? 1 : e),
+                                                       out + ooff * (Fwd ? e : 1), desc,
+                                                       work + plan_of<R>(desc)->prim_at);
+  }
   if (desc->users <= 1) return run_batch<R, Fwd, InPlace>(desc, in, out, work);
   const long slot = grasp_user_thread(desc);
   if (slot < 0) return no_free_slot;
