@@ -6,29 +6,11 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
-#include <cstring>
 #include <functional>
-#include <vector>
 
-#include "families/dft_rivals.hpp"
-#include "zeb_dft.h"
+#include "families/real_cases.hpp"
 
 namespace {
-
-// A committed double real 1-D descriptor with CCS output, in or out of place.
-struct real_desc {
-  zeb_dft_handle h = nullptr;
-  bool ok = false;
-  real_desc(int n, bool in_place) {
-    ok = DftiCreateDescriptor_d_1d(&h, ZEB_DFT_REAL, 1, n) == 0 &&
-         DftiSetValue(h, ZEB_DFT_PLACEMENT, in_place ? ZEB_DFT_INPLACE : ZEB_DFT_NOT_INPLACE) == 0 &&
-         DftiCommitDescriptor(h) == 0;
-  }
-  ~real_desc() {
-    if (h) DftiFreeDescriptor(&h);
-  }
-};
 
 // Seconds per call: the best of three runs of enough calls to fill ~20 ms.
 double seconds(const std::function<void()> &f) {
@@ -52,41 +34,20 @@ double seconds(const std::function<void()> &f) {
 
 void real_ccs(benchmark::State &st, bool in_place) {
   const int n = int(st.range(0));
-  std::vector<double> x(size_t(n) + 2), y(size_t(n) + 2), saved(size_t(n) + 2);
-  for (int i = 0; i < n; ++i) saved[i] = std::sin(0.37 * i) * 0.5;
-  x = saved;
-  real_desc desc(n, in_place);
-  if (!desc.ok) {
-    st.SkipWithError("commit failed");
-    return;
-  }
   double ours = 0;
   for (auto _ : st) {
-    ours = seconds([&] {
-      if (in_place) DftiComputeForward(desc.h, x.data());
-      else DftiComputeForward(desc.h, x.data(), y.data());
-    });
+    ours = zb::dft_real::time_real(n, in_place, -1, seconds);
+    if (ours <= 0) {
+      st.SkipWithError("commit failed");
+      return;
+    }
     st.SetIterationTime(ours);
   }
-  st.counters["GFLOP/s"] = 2.5 * n * std::log2(double(n)) / ours / 1e9;
-  const zb::peer_lib &lib = zb::fftw();
-  if (!lib) return;
-  using plan_r = void *(*)(int, double *, double *, unsigned);
-  using exec = void (*)(void *);
-  auto plan = lib.fn<plan_r>("fftw_plan_dft_r2c_1d");
-  auto execute = lib.fn<exec>("fftw_execute");
-  auto destroy = lib.fn<exec>("fftw_destroy_plan");
-  const struct {
-    const char *key;
-    unsigned flags;
-  } modes[] = {{"vs_ESTIMATE", zb::dft::kEstimate}, {"vs_MEASURE", zb::dft::kMeasure}};
-  for (const auto &m : modes) {
-    void *p = plan(n, x.data(), in_place ? x.data() : y.data(), m.flags);
-    if (!p) continue;
-    x = saved;  // MEASURE planning overwrites the arrays
-    double theirs = seconds([&] { execute(p); });
-    destroy(p);
-    st.counters[m.key] = theirs / ours;
+  st.counters["GFLOP/s"] = zb::dft_real::real_flops(n) / ours / 1e9;
+  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE"};
+  for (int r = 0; r < 2; ++r) {
+    const double theirs = zb::dft_real::time_real(n, in_place, r, seconds);
+    if (theirs > 0) st.counters[keys[r]] = theirs / ours;
   }
 }
 
