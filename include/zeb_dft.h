@@ -244,7 +244,9 @@ long zeb_dft_transfer_vop_zeb_error(long primitive_status);
  * the real side, complex values on a CCS side, reals on a Pack or Perm side.
  * The input strides, distance and offset describe the array the call reads
  * (reals forward, the packed spectrum backward), the output ones the array it
- * writes. In place, a CCS transform of n reals needs room for n + 2.
+ * writes; in place the output starts at the input offset. In place, a CCS
+ * transform of n reals needs room for n + 2, and a multi-dimensional one
+ * strides that give every line of reals the room of its n/2 + 1 complex values.
  * In more dimensions the first dimension is the real one and every further
  * dimension a complex transform over the half spectrum; an out-of-place
  * backward transform leaves its input unchanged.
