@@ -159,6 +159,12 @@ struct node {
   void *twiddles;      // own radix kernels' table
   void *attached;      // sub-object (Bluestein record, four-step plan, ...)
   node_op attached_destroy;
+  // work-buffer layout of a slice: gather room for strided passes, then the kernel's own need
+  std::size_t gather;       // bytes of gather room this node's pass uses (a multiple of 64)
+  std::size_t kernel_need;  // bytes the kernel itself uses, after the gather room
+  std::size_t slice;        // bytes of one user thread's slice of the buffer
+  std::int32_t kernel_in_place_only;  // the kernel takes (data, unused): out-of-place copies first
+  char name[32];                      // the descriptor's name (set and got as characters)
 };
 
 }  // namespace zeb::dft

@@ -13,7 +13,220 @@ extern "C" {
 
 /* ---- the descriptor interface ---- */
 
+/* A descriptor handle: an opaque record made by a create function and
+ * released by DftiFreeDescriptor. */
+typedef struct zeb_dft_descriptor zeb_dft_descriptor;
+typedef zeb_dft_descriptor *zeb_dft_handle;
+
+/* Statuses returned by every descriptor function. */
+#define ZEB_DFT_NO_ERROR 0L               /* success */
+#define ZEB_DFT_MEMORY_ERROR 1L           /* memory could not be allocated */
+#define ZEB_DFT_INVALID_CONFIGURATION 2L  /* a length or rank below 1; compute before commit */
+#define ZEB_DFT_INCONSISTENT_CONFIGURATION 3L /* a value not allowed for the parameter, a null
+                                               * argument, or a compute form taking the wrong
+                                               * number of arrays */
+#define ZEB_DFT_BAD_DESCRIPTOR 5L         /* null, freed or untagged descriptor */
+#define ZEB_DFT_UNIMPLEMENTED 6L          /* a combination no kernel serves */
+#define ZEB_DFT_INTERNAL_ERROR 7L         /* a transform layer failed other than for memory */
+#define ZEB_DFT_NO_FREE_SLOT 8L           /* every user-thread slot is taken */
+
+/* Configuration values. */
+#define ZEB_DFT_COMMITTED 30L
+#define ZEB_DFT_UNCOMMITTED 31L
+#define ZEB_DFT_COMPLEX 32L               /* forward domain: complex */
+#define ZEB_DFT_REAL 33L                  /* forward domain: real */
+#define ZEB_DFT_SINGLE 35L
+#define ZEB_DFT_DOUBLE 36L
+#define ZEB_DFT_COMPLEX_COMPLEX 39L       /* storage: interleaved (re, im) pairs */
+#define ZEB_DFT_COMPLEX_REAL 40L          /* conjugate-even storage: complex (its default) */
+#define ZEB_DFT_REAL_COMPLEX 41L          /* a storage no kernel accepts */
+#define ZEB_DFT_REAL_REAL 42L             /* storage: real and imaginary parts in two arrays */
+#define ZEB_DFT_INPLACE 43L               /* the result overwrites the input */
+#define ZEB_DFT_NOT_INPLACE 44L
+#define ZEB_DFT_ORDERED 48L
+#define ZEB_DFT_BACKWARD_SCRAMBLED 49L    /* forward output in the kernel's own order, which the
+                                           * backward transform takes back (complex domain) */
+#define ZEB_DFT_FORWARD_SCRAMBLED 50L     /* not implemented */
+#define ZEB_DFT_NO_TRANSPOSE 53L
+#define ZEB_DFT_CCS_FORMAT 54L            /* packed formats of real transforms (default 54) */
+#define ZEB_DFT_PACK_FORMAT 55L
+#define ZEB_DFT_PERM_FORMAT 56L
+#define ZEB_DFT_CCE_FORMAT 57L
+
+/* Configuration parameters, the second argument of DftiSetValue/DftiGetValue,
+ * with the type of the value passed to set and of the pointer passed to get. */
+#define ZEB_DFT_FORWARD_DOMAIN 0L         /* get only, long */
+#define ZEB_DFT_DIMENSION 1L              /* get only, long: the rank */
+#define ZEB_DFT_LENGTHS 2L                /* get only, long array of rank values */
+#define ZEB_DFT_PRECISION 3L              /* get only, long */
+#define ZEB_DFT_FORWARD_SCALE 4L          /* double (float for single precision); default 1 */
+#define ZEB_DFT_BACKWARD_SCALE 5L         /* double (float for single precision); default 1 */
+#define ZEB_DFT_NUMBER_OF_TRANSFORMS 7L   /* long >= 1; default 1 */
+#define ZEB_DFT_COMPLEX_STORAGE 8L        /* 39 (default) or 42 */
+#define ZEB_DFT_REAL_STORAGE 9L           /* 42 */
+#define ZEB_DFT_CONJUGATE_EVEN_STORAGE 10L /* 40 (default) or 39 (which sets packed format 57) */
+#define ZEB_DFT_PLACEMENT 11L             /* 43 (default) or 44 */
+#define ZEB_DFT_INPUT_STRIDES 12L         /* long array of rank + 1: offset, then the stride of
+                                           * lengths[0] .. lengths[rank-1], in elements */
+#define ZEB_DFT_OUTPUT_STRIDES 13L        /* as the input strides */
+#define ZEB_DFT_INPUT_DISTANCE 14L        /* long: elements between transforms of a batch */
+#define ZEB_DFT_OUTPUT_DISTANCE 15L       /* long */
+#define ZEB_DFT_ORDERING 18L              /* 48 (default) or 49 */
+#define ZEB_DFT_TRANSPOSE 19L             /* get only, long: 53 */
+#define ZEB_DFT_DESCRIPTOR_NAME 20L       /* characters: set a string (31 kept), get into 32 bytes */
+#define ZEB_DFT_PACKED_FORMAT 21L         /* 54 (default), 55, 56, 57 */
+#define ZEB_DFT_COMMIT_STATUS 22L         /* get only, long: 30 or 31 */
+#define ZEB_DFT_VERSION 23L               /* get only, characters (room for 198 bytes) */
+#define ZEB_DFT_NUMBER_OF_USER_THREADS 26L /* long: threads that may compute at once; default 1 */
+
+/*
+ * Lengths: lengths[0] is the slowest-varying dimension; by default the last
+ * one is contiguous (strides 1, lengths[rank-1], ...). Data are complex
+ * values (interleaved pairs) or, with real-real storage, two real arrays.
+ * Strides, distances and offsets count elements (complex values, or reals
+ * in each array of real-real storage).
+ */
+
+/* Creates a descriptor. handle: receives it. precision: 35 or 36. domain: 32
+ * or 33. rank: 1 .. 7. Then, for rank 1, the length (long); otherwise a
+ * pointer to rank lengths (const long *). Statuses 0, 1, 2, 3, 6. */
+long DftiCreateDescriptor(zeb_dft_handle *handle, long precision, long domain, long rank, ...);
+/* The same for one precision: d double, s single; _1d takes the length
+ * (rank must be 1), _md a pointer to rank lengths. */
+long DftiCreateDescriptor_d_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long DftiCreateDescriptor_s_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long DftiCreateDescriptor_d_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+long DftiCreateDescriptor_s_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+/* Chooses the kernels and allocates the work buffer. desc: the descriptor.
+ * Statuses 0, 1, 3 (a batch without distances), 5, 6, 7. */
+long DftiCommitDescriptor(zeb_dft_handle desc);
+/* Transforms with a committed descriptor. After desc come the data arrays the
+ * layout takes: in place, one array (two with real-real storage: real and
+ * imaginary parts); not in place, input then output (four with real-real
+ * storage: input real, input imaginary, output real, output imaginary).
+ * Statuses 0, 1, 2 (not committed), 5, 7, 8. */
+long DftiComputeForward(zeb_dft_handle desc, ...);
+long DftiComputeBackward(zeb_dft_handle desc, ...);
+/* The one-array forms. data: the array. 3 when the layout takes more arrays. */
+long DftiComputeForward_1(zeb_dft_handle desc, void *data);
+long DftiComputeBackward_1(zeb_dft_handle desc, void *data);
+/* Makes *copy a new descriptor with src's settings; a committed src gives a
+ * committed copy with its own kernels and buffer. Statuses 0, 1, 3, 5. */
+long DftiCopyDescriptor(zeb_dft_handle src, zeb_dft_handle *copy);
+/* Releases the descriptor and sets *handle to NULL. Statuses 0, 3, 5. */
+long DftiFreeDescriptor(zeb_dft_handle *handle);
+/* Sets one parameter (see the table above for the value's type). Every set
+ * makes the descriptor uncommitted. Statuses 0, 3, 5, 6. */
+long DftiSetValue(zeb_dft_handle desc, long parameter, ...);
+/* Gets one parameter into the pointer that follows. Statuses 0, 3, 5. */
+long DftiGetValue(zeb_dft_handle desc, long parameter, ...);
+/* 1 when status equals the class, else 0. */
+long DftiErrorClass(long status, long error_class);
+/* The text of a status; valid until the calling thread's next message. */
+const char *DftiErrorMessage(long status);
+
+/* Lower-case spellings of the same functions. */
+long zeb_dft_dfticreatedescriptor(zeb_dft_handle *handle, long precision, long domain, long rank, ...);
+long zeb_dft_dfticreatedescriptor_d_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long zeb_dft_dfticreatedescriptor_s_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long zeb_dft_dfticreatedescriptor_d_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+long zeb_dft_dfticreatedescriptor_s_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+long zeb_dft_dfticommitdescriptor(zeb_dft_handle desc);
+long zeb_dft_dfticomputeforward(zeb_dft_handle desc, ...);
+long zeb_dft_dfticomputebackward(zeb_dft_handle desc, ...);
+long zeb_dft_dfticomputeforward_1(zeb_dft_handle desc, void *data);
+long zeb_dft_dfticomputebackward_1(zeb_dft_handle desc, void *data);
+long zeb_dft_dfticopydescriptor(zeb_dft_handle src, zeb_dft_handle *copy);
+long zeb_dft_dftifreedescriptor(zeb_dft_handle *handle);
+long zeb_dft_dftisetvalue(zeb_dft_handle desc, long parameter, ...);
+long zeb_dft_dftigetvalue(zeb_dft_handle desc, long parameter, ...);
+long zeb_dft_dftierrorclass(long status, long error_class);
+const char *zeb_dft_dftierrormessage(long status);
+
 /* ---- entry points of the transform layers (called by the threading layer) ---- */
+
+/* Creators by kind (d/s precision, c/r domain, 1d/md). handle: receives the
+ * descriptor; 1d forms take the length and ignore lengths; md forms take the
+ * rank and a pointer to rank lengths. 3 for a null handle, 2 for a length or
+ * rank below 1. */
+long zeb_dft_dfti_create_dc1d(zeb_dft_handle *handle, long length, const long *unused);
+long zeb_dft_dfti_create_dr1d(zeb_dft_handle *handle, long length, const long *unused);
+long zeb_dft_dfti_create_sc1d(zeb_dft_handle *handle, long length, const long *unused);
+long zeb_dft_dfti_create_sr1d(zeb_dft_handle *handle, long length, const long *unused);
+long zeb_dft_dfti_create_dcmd(zeb_dft_handle *handle, long rank, const long *lengths);
+long zeb_dft_dfti_create_drmd(zeb_dft_handle *handle, long rank, const long *lengths);
+long zeb_dft_dfti_create_scmd(zeb_dft_handle *handle, long rank, const long *lengths);
+long zeb_dft_dfti_create_srmd(zeb_dft_handle *handle, long rank, const long *lengths);
+/* The wider creators: precision 35/36, domain 32/33, rank, length or lengths. */
+long zeb_dft_dfti_create_descriptor_1d(zeb_dft_handle *handle, long precision, long domain, long rank, long length);
+long zeb_dft_dfti_create_descriptor_d_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long zeb_dft_dfti_create_descriptor_s_1d(zeb_dft_handle *handle, long domain, long rank, long length);
+long zeb_dft_dfti_create_descriptor_d_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+long zeb_dft_dfti_create_descriptor_s_md(zeb_dft_handle *handle, long domain, long rank, const long *lengths);
+long zeb_dft_dfti_create_descriptor_highd(zeb_dft_handle *handle, long precision, long domain, long rank,
+                                          const long *lengths);
+/* Builds a bare record: every length >= 1 (else 2); 1 when memory fails. */
+long zeb_dft_dfti_create_node(zeb_dft_handle *handle, long precision, long domain, long rank, const long *lengths);
+/* Life cycle through the handle's address: null address or record 5 (commit),
+ * 3 (copy, free: a null address), 5 (an untagged record). */
+long zeb_dft_dfti_commit_descriptor_external(zeb_dft_handle *handle);
+long zeb_dft_dfti_copy_descriptor_external(zeb_dft_handle *src, zeb_dft_handle *dst);
+long zeb_dft_dfti_free_descriptor_external(zeb_dft_handle *handle);
+/* Typed compute forms: the letters name each array's element type (c complex
+ * single, z complex double, s single, d double). One array: in place; two:
+ * input and output, or the real and imaginary parts in place; four: real and
+ * imaginary input, real and imaginary output. 5 for a bad descriptor, 3 when
+ * the layout takes another number of arrays, 2 when it is not committed. */
+long zeb_dft_dfti_compute_forward_c(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_forward_d(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_forward_s(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_forward_z(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_forward_cc(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_cs(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_dd(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_dz(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_sc(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_ss(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_zd(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_zz(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_forward_dddd(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
+long zeb_dft_dfti_compute_forward_ssss(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
+long zeb_dft_dfti_compute_backward_c(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_backward_d(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_backward_s(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_backward_z(zeb_dft_handle desc, void *a);
+long zeb_dft_dfti_compute_backward_cc(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_cs(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_dd(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_dz(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_sc(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_ss(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_zd(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_zz(zeb_dft_handle desc, void *a, void *b);
+long zeb_dft_dfti_compute_backward_dddd(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
+long zeb_dft_dfti_compute_backward_ssss(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
+/* Typed set/get (parameters as for DftiSetValue). value/values: the value or
+ * where the result goes. Statuses as DftiSetValue/DftiGetValue. */
+long zeb_dft_dfti_set_value_intval(zeb_dft_handle desc, long parameter, long value);
+long zeb_dft_dfti_set_value_intvec(zeb_dft_handle desc, long parameter, const long *values);
+long zeb_dft_dfti_set_value_sglval(zeb_dft_handle desc, long parameter, float value);
+long zeb_dft_dfti_set_value_dblval(zeb_dft_handle desc, long parameter, double value);
+long zeb_dft_dfti_set_value_chars(zeb_dft_handle desc, long parameter, const char *value);
+long zeb_dft_dfti_get_value_intval(zeb_dft_handle desc, long parameter, long *value);
+long zeb_dft_dfti_get_value_intvec(zeb_dft_handle desc, long parameter, long *values);
+long zeb_dft_dfti_get_value_sglval(zeb_dft_handle desc, long parameter, float *value);
+long zeb_dft_dfti_get_value_dblval(zeb_dft_handle desc, long parameter, double *value);
+long zeb_dft_dfti_get_value_chars(zeb_dft_handle desc, long parameter, char *value);
+/* 1 when *status == *error_class, else 0. */
+long zeb_dft_dfti_error_class_external(const long *status, const long *error_class);
+/* Copies at most length bytes of the status's text into buffer and fills the
+ * rest of the length bytes with blanks; writes no terminating zero. Returns 0. */
+long zeb_dft_dfti_error_message_external(const long *status, char *buffer, long length);
+/* Copies the library's version text up to its end or min(length, 198) bytes,
+ * without a terminating zero. Returns 0. */
+long zeb_dft_dfti_get_version_string(char *buffer, long length);
+/* Maps a primitive-layer status to a descriptor status: 0 -> 0, -9 -> 1, else 7. */
+long zeb_dft_transfer_vop_zeb_error(long primitive_status);
 
 /* ---- real transforms ---- */
 

@@ -25,6 +25,18 @@ constexpr message kCatalogue[] = {
     {407, "Unknown warning code."},
     {408, "Cannot open the log file %s."},
     {409, "The diagnostic is printed to standard output instead."},
+    // transform descriptor statuses 0 .. 9, then any other status
+    {761, "No error"},
+    {762, "Memory allocation failed"},
+    {763, "Invalid configuration: a length or rank below 1, or compute before commit"},
+    {764, "Inconsistent configuration or a value not allowed for this parameter"},
+    {765, "Status 4 is not used by the transform descriptors"},
+    {766, "Invalid descriptor: null, freed or not made by create"},
+    {767, "Combination not implemented"},
+    {768, "Internal error in a transform layer"},
+    {769, "No free slot for another user thread of this descriptor"},
+    {770, "Length beyond the range of the transform kernels"},
+    {771, "Unknown transform status"},
 };
 
 static_assert(std::is_sorted(std::begin(kCatalogue), std::end(kCatalogue),

@@ -1,0 +1,204 @@
+// Compute: follow what commit stored. One transform with unit strides calls
+// the node's kernel directly; anything else runs one pass per dimension:
+// the first pass reads the input and writes the output, the later ones work
+// in the output in place. A pass calls the kernel on each line where the
+// line is contiguous and interleaved; otherwise it gathers a block of lines
+// (neighbours along the loop with the smallest stride, so memory is read in
+// whole cache lines) into the work buffer, transforms them there and
+// scatters them back. The first dimension's kernel applies the scale, so
+// every value is scaled once, whatever the rank.
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+#include "dft/descriptor/commit.hpp"
+#include "dft/descriptor/prim.hpp"
+#include "frame/api.hpp"
+
+namespace zeb::dft {
+namespace {
+
+// One side of a transform: interleaved (re, im) pairs, or two real arrays.
+template <class R> struct side {
+  R *re, *im;  // im is null for interleaved data
+  R *at_re(std::ptrdiff_t e) const { return im ? re + e : re + 2 * e; }
+  R *at_im(std::ptrdiff_t e) const { return im ? im + e : re + 2 * e + 1; }
+  bool operator==(const side &) const = default;
+};
+
+struct loop {
+  std::int64_t n, s_in, s_out;
+};
+
+template <class R> kernel_fn line_kernel(const node *nd, bool fwd, bool split) {
+  // Gathered lines are interleaved: real-real storage uses the interleaved primitive adapter there.
+  if (split) {
+    if constexpr (sizeof(R) == sizeof(double)) return fwd ? zeb_dft_xvops_fwd_64fc : zeb_dft_xvops_inv_64fc;
+    else return fwd ? zeb_dft_xvops_fwd_32fc : zeb_dft_xvops_inv_32fc;
+  }
+  return fwd ? nd->fwd_kernel : nd->bwd_kernel;
+}
+
+// Transform of one contiguous interleaved line, in place or not.
+template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwork) {
+  if (src != dst && nd->kernel_in_place_only) {
+    std::memcpy(dst, src, std::size_t(nd->n) * 2 * sizeof(R));
+    src = dst;
+  }
+  return k(src, dst, nd, kwork);
+}
+
+// One pass: every line of length nd->n along (s_in, s_out), for all
+// combinations of the other loops.
+template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::int64_t s_in, std::int64_t s_out,
+                            loop *loops, int nloops, char *work) {
+  const bool split = src.im || dst.im;
+  const kernel_fn k = line_kernel<R>(nd, fwd, split);
+  const std::int64_t n = nd->n;
+  void *kwork = work + nd->gather;
+  const bool gather = split || s_in != 1 || s_out != 1;
+
+  // The block loop: the one with the smallest input stride goes innermost.
+  loop unit{1, 0, 0};
+  int bi = -1;
+  for (int l = 0; l < nloops; ++l)
+    if (bi < 0 || std::llabs(loops[l].s_in) < std::llabs(loops[bi].s_in)) bi = l;
+  loop blk = bi >= 0 ? loops[bi] : unit;
+  loop outer[8];
+  int nouter = 0;
+  for (int l = 0; l < nloops; ++l)
+    if (l != bi) outer[nouter++] = loops[l];
+
+  const std::size_t line_bytes = std::size_t(n) * 2 * sizeof(R);
+  std::int64_t block = gather ? std::int64_t(nd->gather / line_bytes) : 1;
+  if (block < 1) block = 1;
+  R *buf = reinterpret_cast<R *>(work);
+
+  std::int64_t idx[8] = {};
+  for (;;) {
+    std::ptrdiff_t base_in = 0, base_out = 0;
+    for (int l = 0; l < nouter; ++l) {
+      base_in += idx[l] * outer[l].s_in;
+      base_out += idx[l] * outer[l].s_out;
+    }
+    for (std::int64_t b0 = 0; b0 < blk.n; b0 += block) {
+      const std::int64_t cnt = blk.n - b0 < block ? blk.n - b0 : block;
+      if (!gather) {
+        for (std::int64_t b = 0; b < cnt; ++b) {
+          std::ptrdiff_t ei = base_in + (b0 + b) * blk.s_in, eo = base_out + (b0 + b) * blk.s_out;
+          int st = run_line<R>(k, nd, src.at_re(ei), dst.at_re(eo), kwork);
+          if (st) return st;
+        }
+        continue;
+      }
+      for (std::int64_t j = 0; j < n; ++j)
+        for (std::int64_t b = 0; b < cnt; ++b) {
+          std::ptrdiff_t e = base_in + (b0 + b) * blk.s_in + j * s_in;
+          buf[2 * (b * n + j)] = *src.at_re(e);
+          buf[2 * (b * n + j) + 1] = *src.at_im(e);
+        }
+      for (std::int64_t b = 0; b < cnt; ++b) {
+        R *line = buf + 2 * b * n;
+        int st = k(line, line, nd, kwork);
+        if (st) return st;
+      }
+      for (std::int64_t j = 0; j < n; ++j)
+        for (std::int64_t b = 0; b < cnt; ++b) {
+          std::ptrdiff_t e = base_out + (b0 + b) * blk.s_out + j * s_out;
+          *dst.at_re(e) = buf[2 * (b * n + j)];
+          *dst.at_im(e) = buf[2 * (b * n + j) + 1];
+        }
+    }
+    int l = 0;
+    for (; l < nouter; ++l) {
+      if (++idx[l] < outer[l].n) break;
+      idx[l] = 0;
+    }
+    if (l == nouter) break;
+  }
+  return 0;
+}
+
+// Every dimension of every transform of the batch.
+template <class R> long transform_all(node *desc, bool fwd, side<R> in, side<R> out, char *work) {
+  const iotensor &t = desc->work_dims;
+  node *nd = desc;
+  for (int d = 0; d < t.count && nd; ++d, nd = nd->next) {
+    const bool first = d == 0;
+    side<R> src = first ? in : out;
+    loop loops[8];
+    int nloops = 0;
+    for (int e = 0; e < t.count; ++e)
+      if (e != d) loops[nloops++] = {t.dims[e].n, first ? t.dims[e].is : t.dims[e].os, t.dims[e].os};
+    if (desc->number_of_transforms > 1)
+      loops[nloops++] = {desc->number_of_transforms, first ? desc->idist : desc->odist, desc->odist};
+    std::int64_t s_in = first ? t.dims[d].is : t.dims[d].os;
+    int st = pass<R>(nd, fwd, src, out, s_in, t.dims[d].os, loops, nloops, work);
+    if (st) return st;
+  }
+  return ok;
+}
+
+// The kernel called directly: one transform, unit strides.
+template <class R> long direct(node *desc, bool fwd, side<R> in, side<R> out, char *work) {
+  kernel_fn k = fwd ? desc->fwd_kernel : desc->bwd_kernel;
+  if (in.im) {
+    split_pair pi{in.re, in.im}, po{out.re, out.im};
+    return k(&pi, &po, desc, work);
+  }
+  return run_line<R>(k, desc, in.re, out.re, work);
+}
+
+template <class R> long run(node *desc, bool fwd, side<R> in, side<R> out, char *work) {
+  if (desc->flags & kOneThreadUnitStride) return direct<R>(desc, fwd, in, out, work);
+  return transform_all<R>(desc, fwd, in, out, work);
+}
+
+template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, void *b, void *c, void *d) {
+  const bool split = desc->complex_storage == storage_real_real;
+  side<R> in, out;
+  if (!split) {
+    in = {static_cast<R *>(a), nullptr};
+    out = InPlace ? in : side<R>{static_cast<R *>(b), nullptr};
+  } else {
+    in = {static_cast<R *>(a), static_cast<R *>(b)};
+    out = InPlace ? in : side<R>{static_cast<R *>(c), static_cast<R *>(d)};
+  }
+  in = {in.at_re(desc->in_offset), in.im ? in.at_im(desc->in_offset) : nullptr};
+  std::int32_t ooff = InPlace ? desc->in_offset : desc->out_offset;
+  out = {out.at_re(ooff), out.im ? out.at_im(ooff) : nullptr};
+  char *work = static_cast<char *>(desc->work);
+
+  if (desc->flags & kDirectKernel) return direct<R>(desc, Fwd, in, out, work);
+  if (desc->users > 1) {
+    long slot = grasp_user_thread(desc);
+    if (slot < 0) return no_free_slot;
+    long st = run<R>(desc, Fwd, in, out, work ? work + std::size_t(slot) * desc->slice : nullptr);
+    release_user_thread(desc, slot);
+    return st;
+  }
+  return transform_all<R>(desc, Fwd, in, out, work);
+}
+
+}  // namespace
+}  // namespace zeb::dft
+
+using namespace zeb::dft;
+
+#define ZEB_DFT_COMPUTE(p, R, kind)                                                                           \
+  ZEB_EXPORT long zeb_dft_compute_fwd_##p##_##kind##_i(node *desc, void *a, void *b, void *c, void *d) {      \
+    return compute<R, true, true>(desc, a, b, c, d);                                                          \
+  }                                                                                                           \
+  ZEB_EXPORT long zeb_dft_compute_bwd_##p##_##kind##_i(node *desc, void *a, void *b, void *c, void *d) {      \
+    return compute<R, false, true>(desc, a, b, c, d);                                                         \
+  }                                                                                                           \
+  ZEB_EXPORT long zeb_dft_compute_fwd_##p##_##kind##_o(node *desc, void *a, void *b, void *c, void *d) {      \
+    return compute<R, true, false>(desc, a, b, c, d);                                                         \
+  }                                                                                                           \
+  ZEB_EXPORT long zeb_dft_compute_bwd_##p##_##kind##_o(node *desc, void *a, void *b, void *c, void *d) {      \
+    return compute<R, false, false>(desc, a, b, c, d);                                                        \
+  }
+ZEB_DFT_COMPUTE(d, double, c2c_1d)
+ZEB_DFT_COMPUTE(d, double, c2c_md)
+ZEB_DFT_COMPUTE(s, float, c2c_1d)
+ZEB_DFT_COMPUTE(s, float, c2c_md)

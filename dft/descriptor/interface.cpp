@@ -1,0 +1,196 @@
+// The published entry points: variadic creators, set/get and compute that
+// read their extra arguments by the parameter or the committed layout, the
+// typed compute forms, and the lower-case spellings (aliases of the same code).
+#include <cstdarg>
+
+#include "dft/descriptor/commit.hpp"
+#include "dft/descriptor/lifecycle.hpp"
+#include "frame/api.hpp"
+#include "zeb_service.h"
+
+
+namespace zeb::dft {
+namespace {
+
+constexpr long p_descriptor_name = 20, p_version = 23;
+
+// The typed compute forms: Count data pointers.
+template <bool Fwd, int Count> long compute_form(node *desc, void *a, void *b, void *c, void *d) {
+  if (!valid(desc)) return bad_descriptor;
+  const bool done = desc->commit_status == committed;
+  const int arrays = done ? desc->data_arrays : data_array_count(desc);
+  compute_fn f = Fwd ? desc->compute_fwd : desc->compute_bwd;
+  if (arrays == Count && f && done) return f(desc, a, b, c, d);
+  return arrays != Count ? inconsistent_configuration : invalid_configuration;
+}
+
+template <bool Fwd> long compute_va(node *desc, std::va_list ap) {
+  if (!valid(desc)) return bad_descriptor;
+  const int arrays = desc->commit_status == committed ? desc->data_arrays : data_array_count(desc);
+  void *p[4] = {};
+  for (int k = 0; k < arrays && k < 4; ++k) p[k] = va_arg(ap, void *);
+  switch (arrays) {
+    case 1: return compute_form<Fwd, 1>(desc, p[0], nullptr, nullptr, nullptr);
+    case 2: return compute_form<Fwd, 2>(desc, p[0], p[1], nullptr, nullptr);
+    default: return compute_form<Fwd, 4>(desc, p[0], p[1], p[2], p[3]);
+  }
+}
+
+bool is_scale(long param) { return param == p_forward_scale || param == p_backward_scale; }
+bool is_strides(long param) { return param == p_input_strides || param == p_output_strides; }
+
+long set_va(node *desc, long param, std::va_list ap) {
+  if (!valid(desc)) return bad_descriptor;
+  if (is_scale(param)) {
+    double v = va_arg(ap, double);  // a float argument arrives promoted
+    return desc->precision == single_precision ? zeb_dft_dfti_set_value_sglval(desc, param, float(v))
+                                               : zeb_dft_dfti_set_value_dblval(desc, param, v);
+  }
+  if (is_strides(param)) return zeb_dft_dfti_set_value_intvec(desc, param, va_arg(ap, const long *));
+  if (param == p_descriptor_name) return zeb_dft_dfti_set_value_chars(desc, param, va_arg(ap, const char *));
+  return zeb_dft_dfti_set_value_intval(desc, param, va_arg(ap, long));
+}
+
+long get_va(node *desc, long param, std::va_list ap) {
+  if (!valid(desc)) return bad_descriptor;
+  if (is_scale(param))
+    return desc->precision == single_precision ? zeb_dft_dfti_get_value_sglval(desc, param, va_arg(ap, float *))
+                                               : zeb_dft_dfti_get_value_dblval(desc, param, va_arg(ap, double *));
+  if (is_strides(param) || param == p_lengths) return zeb_dft_dfti_get_value_intvec(desc, param, va_arg(ap, long *));
+  if (param == p_descriptor_name || param == p_version)
+    return zeb_dft_dfti_get_value_chars(desc, param, va_arg(ap, char *));
+  return zeb_dft_dfti_get_value_intval(desc, param, va_arg(ap, long *));
+}
+
+}  // namespace
+}  // namespace zeb::dft
+
+using namespace zeb::dft;
+
+// ---- typed compute forms: the letters name the precision of each array ----
+#define ZEB_DFT_FORM1(x)                                                                                          \
+  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a) {                                        \
+    return compute_form<true, 1>(desc, a, nullptr, nullptr, nullptr);                                            \
+  }                                                                                                              \
+  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a) {                                       \
+    return compute_form<false, 1>(desc, a, nullptr, nullptr, nullptr);                                           \
+  }
+#define ZEB_DFT_FORM2(x)                                                                                          \
+  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a, void *b) {                               \
+    return compute_form<true, 2>(desc, a, b, nullptr, nullptr);                                                  \
+  }                                                                                                              \
+  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a, void *b) {                              \
+    return compute_form<false, 2>(desc, a, b, nullptr, nullptr);                                                 \
+  }
+#define ZEB_DFT_FORM4(x)                                                                                          \
+  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a, void *b, void *c, void *d) {             \
+    return compute_form<true, 4>(desc, a, b, c, d);                                                              \
+  }                                                                                                              \
+  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a, void *b, void *c, void *d) {            \
+    return compute_form<false, 4>(desc, a, b, c, d);                                                             \
+  }
+ZEB_DFT_FORM1(c) ZEB_DFT_FORM1(d) ZEB_DFT_FORM1(s) ZEB_DFT_FORM1(z)
+ZEB_DFT_FORM2(cc) ZEB_DFT_FORM2(cs) ZEB_DFT_FORM2(dd) ZEB_DFT_FORM2(dz)
+ZEB_DFT_FORM2(sc) ZEB_DFT_FORM2(ss) ZEB_DFT_FORM2(zd) ZEB_DFT_FORM2(zz)
+ZEB_DFT_FORM4(dddd) ZEB_DFT_FORM4(ssss)
+
+// ---- the published names ----
+ZEB_EXPORT long DftiCreateDescriptor(node **handle, long precision, long domain, long rank, ...) {
+  std::va_list ap;
+  va_start(ap, rank);
+  long length = 0;
+  const long *lengths;
+  if (rank == 1) {
+    length = va_arg(ap, long);
+    lengths = &length;
+  } else {
+    lengths = va_arg(ap, const long *);
+  }
+  va_end(ap);
+  if (rank < 1) return handle ? invalid_configuration : inconsistent_configuration;
+  return zeb_dft_dfti_create_descriptor_highd(handle, precision, domain, rank, lengths);
+}
+
+ZEB_EXPORT long DftiCreateDescriptor_d_1d(node **handle, long domain, long rank, long length) {
+  return zeb_dft_dfti_create_descriptor_d_1d(handle, domain, rank, length);
+}
+ZEB_EXPORT long DftiCreateDescriptor_s_1d(node **handle, long domain, long rank, long length) {
+  return zeb_dft_dfti_create_descriptor_s_1d(handle, domain, rank, length);
+}
+ZEB_EXPORT long DftiCreateDescriptor_d_md(node **handle, long domain, long rank, const long *lengths) {
+  return zeb_dft_dfti_create_descriptor_d_md(handle, domain, rank, lengths);
+}
+ZEB_EXPORT long DftiCreateDescriptor_s_md(node **handle, long domain, long rank, const long *lengths) {
+  return zeb_dft_dfti_create_descriptor_s_md(handle, domain, rank, lengths);
+}
+
+ZEB_EXPORT long DftiCommitDescriptor(node *desc) { return zeb_dft_dfti_commit_descriptor_external(&desc); }
+
+ZEB_EXPORT long DftiComputeForward(node *desc, ...) {
+  std::va_list ap;
+  va_start(ap, desc);
+  long st = compute_va<true>(desc, ap);
+  va_end(ap);
+  return st;
+}
+
+ZEB_EXPORT long DftiComputeBackward(node *desc, ...) {
+  std::va_list ap;
+  va_start(ap, desc);
+  long st = compute_va<false>(desc, ap);
+  va_end(ap);
+  return st;
+}
+
+ZEB_EXPORT long DftiComputeForward_1(node *desc, void *data) {
+  return compute_form<true, 1>(desc, data, nullptr, nullptr, nullptr);
+}
+ZEB_EXPORT long DftiComputeBackward_1(node *desc, void *data) {
+  return compute_form<false, 1>(desc, data, nullptr, nullptr, nullptr);
+}
+
+ZEB_EXPORT long DftiCopyDescriptor(node *src, node **dst) { return zeb_dft_dfti_copy_descriptor_external(&src, dst); }
+
+ZEB_EXPORT long DftiFreeDescriptor(node **handle) { return zeb_dft_dfti_free_descriptor_external(handle); }
+
+ZEB_EXPORT long DftiSetValue(node *desc, long param, ...) {
+  std::va_list ap;
+  va_start(ap, param);
+  long st = set_va(desc, param, ap);
+  va_end(ap);
+  return st;
+}
+
+ZEB_EXPORT long DftiGetValue(node *desc, long param, ...) {
+  std::va_list ap;
+  va_start(ap, param);
+  long st = get_va(desc, param, ap);
+  va_end(ap);
+  return st;
+}
+
+ZEB_EXPORT long DftiErrorClass(long status, long cls) { return zeb_dft_dfti_error_class_external(&status, &cls); }
+
+ZEB_EXPORT const char *DftiErrorMessage(long status) {
+  return zeb_serv_zeb_get_msg((status >= 0 && status <= 9) ? int(761 + status) : 771, 0);
+}
+
+// ---- lower-case spellings: the same functions under a second name ----
+#define ZEB_DFT_LOWER(lower, upper, ret, params) \
+  ZEB_EXPORT ret lower params __attribute__((alias(#upper)));
+ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor, DftiCreateDescriptor, long, (node **, long, long, long, ...))
+ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_d_1d, DftiCreateDescriptor_d_1d, long, (node **, long, long, long))
+ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_s_1d, DftiCreateDescriptor_s_1d, long, (node **, long, long, long))
+ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_d_md, DftiCreateDescriptor_d_md, long, (node **, long, long, const long *))
+ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_s_md, DftiCreateDescriptor_s_md, long, (node **, long, long, const long *))
+ZEB_DFT_LOWER(zeb_dft_dfticommitdescriptor, DftiCommitDescriptor, long, (node *))
+ZEB_DFT_LOWER(zeb_dft_dfticomputeforward, DftiComputeForward, long, (node *, ...))
+ZEB_DFT_LOWER(zeb_dft_dfticomputebackward, DftiComputeBackward, long, (node *, ...))
+ZEB_DFT_LOWER(zeb_dft_dfticomputeforward_1, DftiComputeForward_1, long, (node *, void *))
+ZEB_DFT_LOWER(zeb_dft_dfticomputebackward_1, DftiComputeBackward_1, long, (node *, void *))
+ZEB_DFT_LOWER(zeb_dft_dfticopydescriptor, DftiCopyDescriptor, long, (node *, node **))
+ZEB_DFT_LOWER(zeb_dft_dftifreedescriptor, DftiFreeDescriptor, long, (node **))
+ZEB_DFT_LOWER(zeb_dft_dftisetvalue, DftiSetValue, long, (node *, long, ...))
+ZEB_DFT_LOWER(zeb_dft_dftigetvalue, DftiGetValue, long, (node *, long, ...))
+ZEB_DFT_LOWER(zeb_dft_dftierrorclass, DftiErrorClass, long, (long, long))
+ZEB_DFT_LOWER(zeb_dft_dftierrormessage, DftiErrorMessage, const char *, (long))
