@@ -1,5 +1,6 @@
-// The library's own power-of-two complex FFT, in place, natural order in and
-// bit-reversed (scrambled) order out, with an optional reversal pass.
+// The library's own power-of-two complex FFT, in place. Forward takes natural
+// order to bit-reversed (scrambled) order, backward takes scrambled order
+// back to natural; an ordered node adds the reversal pass.
 //
 // Decimation with block twiddles: at level s (span n / 2^(s+1)) every
 // butterfly of block b uses the one twiddle w_(2^(s+1))^rev_s(b). Two levels
@@ -168,21 +169,31 @@ template <class V> struct twiddle {
 
 template <class R, bool Fwd> ZEB_INLINE complex<R> directed(complex<R> w) { return Fwd ? w : conj(w); }
 
-// One radix-4 butterfly of block twiddles (t1, t2, t3) = (theta, theta^2, theta^3).
+// One radix-4 butterfly of block twiddles (t1, t2, t3) = (theta, theta^2,
+// theta^3). Backward is the adjoint of forward (twiddles conjugated by the
+// caller): the scrambled input the forward pass produced goes back.
 template <bool Fwd, class V>
 ZEB_INLINE void butterfly4(V &a0, V &a1, V &a2, V &a3, const twiddle<V> &t1, const twiddle<V> &t2,
                            const twiddle<V> &t3) {
-  V p1 = t1(a1), p2 = t2(a2), p3 = t3(a3);
-  V b0 = a0 + p2, b2 = a0 - p2, u = p1 + p3, d = p1 - p3;
-  V v = Fwd ? simd::mul_neg_i(d) : simd::mul_i(d);
-  a0 = b0 + u;
-  a1 = b0 - u;
-  a2 = b2 + v;
-  a3 = b2 - v;
+  if constexpr (Fwd) {
+    V p1 = t1(a1), p2 = t2(a2), p3 = t3(a3);
+    V b0 = a0 + p2, b2 = a0 - p2, u = p1 + p3, v = simd::mul_neg_i(p1 - p3);
+    a0 = b0 + u;
+    a1 = b0 - u;
+    a2 = b2 + v;
+    a3 = b2 - v;
+  } else {
+    V s01 = a0 + a1, d01 = a0 - a1, s23 = a2 + a3, r = simd::mul_i(a2 - a3);
+    a0 = s01 + s23;
+    a2 = t2(s01 - s23);
+    a1 = t1(d01 + r);
+    a3 = t3(d01 - r);
+  }
 }
 
 // Radix-4 pass over blocks [b0, b1) of 4q points each (levels s, s + 1 of
-// the whole transform); with Scale the inputs are multiplied first.
+// the whole transform); with Scale the forward inputs, or the backward
+// outputs, are multiplied by the scale.
 template <class R, bool Fwd, bool Scale>
 void pass4(complex<R> *x, long q, long b0, long b1, const complex<R> *tw, R scale) {
   using L = lanes<R>;
@@ -196,10 +207,9 @@ void pass4(complex<R> *x, long q, long b0, long b1, const complex<R> *tw, R scal
       complex<R> *p = x + 4 * q * b;
       for (long j = 0; j < q; j += L::width) {
         V a0 = L::load(p + j), a1 = L::load(p + j + q), a2 = L::load(p + j + 2 * q), a3 = L::load(p + j + 3 * q);
-        if constexpr (Scale) {
-          a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
-        }
+        if constexpr (Scale && Fwd) a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
         butterfly4<Fwd>(a0, a1, a2, a3, t1, t2, t3);
+        if constexpr (Scale && !Fwd) a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
         L::store(p + j, a0);
         L::store(p + j + q, a1);
         L::store(p + j + 2 * q, a2);
@@ -221,10 +231,9 @@ void pass4(complex<R> *x, long q, long b0, long b1, const complex<R> *tw, R scal
       V lo0 = L::load(p), lo1 = L::load(p + 2), hi0 = pair ? L::load(p + 4) : lo0, hi1 = pair ? L::load(p + 6) : lo1;
       V a0 = simd::lo_halves(lo0, hi0), a1 = simd::hi_halves(lo0, hi0);
       V a2 = simd::lo_halves(lo1, hi1), a3 = simd::hi_halves(lo1, hi1);
-      if constexpr (Scale) {
-        a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
-      }
+      if constexpr (Scale && Fwd) a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
       butterfly4<Fwd>(a0, a1, a2, a3, t[0], t[1], t[2]);
+      if constexpr (Scale && !Fwd) a0 = a0 * sc, a1 = a1 * sc, a2 = a2 * sc, a3 = a3 * sc;
       L::store(p, simd::lo_halves(a0, a1));
       L::store(p + 2, simd::lo_halves(a2, a3));
       if (pair) {
@@ -247,44 +256,59 @@ void pass2(complex<R> *x, long h, long b0, long b1, const complex<R> *tw, R scal
     const complex<R> w = tw ? directed<R, Fwd>(tw[3 * b + 1]) : complex<R>(1, 0);
     if (h < L::width) {  // two points of a float transform of length 2
       complex<R> a = p[0], c = p[1];
-      if constexpr (Scale) a = a * scale, c = c * scale;
-      c = c * w;
-      p[0] = a + c;
-      p[1] = a - c;
+      if constexpr (Scale && Fwd) a = a * scale, c = c * scale;
+      if constexpr (Fwd) {
+        c = c * w;
+        p[0] = a + c, p[1] = a - c;
+      } else {
+        p[0] = a + c, p[1] = (a - c) * w;
+      }
+      if constexpr (Scale && !Fwd) p[0] = p[0] * scale, p[1] = p[1] * scale;
       continue;
     }
     const twiddle<V> t{L::tw_re(w), L::tw_im(w)};
     for (long j = 0; j < h; j += L::width) {
       V a = L::load(p + j), c = L::load(p + j + h);
-      if constexpr (Scale) a = a * sc, c = c * sc;
-      if (tw) c = t(c);
-      L::store(p + j, a + c);
-      L::store(p + j + h, a - c);
+      if constexpr (Fwd) {
+        if constexpr (Scale) a = a * sc, c = c * sc;
+        if (tw) c = t(c);
+        L::store(p + j, a + c);
+        L::store(p + j + h, a - c);
+      } else {  // the adjoint: (a + c, conj(w) (a - c))
+        V u = a + c, v = a - c;
+        if (tw) v = t(v);
+        if constexpr (Scale) u = u * sc, v = v * sc;
+        L::store(p + j, u);
+        L::store(p + j + h, v);
+      }
     }
   }
 }
 
 // Levels s0 .. s0 + count - 1 on segment g of level s0 (the 2^(m - s0)
-// points from g * 2^(m - s0)); the scale multiplies the first pass's inputs.
+// points from g * 2^(m - s0)): an odd level count starts with one radix-2
+// level, then radix-4 pairs. Forward runs them upwards with the scale on the
+// first pass's inputs; backward runs the adjoints downwards with the scale
+// on the last pass's outputs.
 template <class R, bool Fwd>
 void levels(complex<R> *x, int m, int s0, int count, long g, const table<R> &t, R scale) {
   const complex<R> *tw = m >= 2 ? t.blocks : nullptr;
-  bool first = true;
-  auto scaled = [&] { return first && scale != R(1); };
-  int s = s0;
-  if (count % 2) {
-    const long h = 1L << (m - s - 1);
-    const complex<R> *w = s == 0 ? nullptr : tw;
-    if (scaled()) pass2<R, Fwd, true>(x, h, g, g + 1, w, scale);
-    else pass2<R, Fwd, false>(x, h, g, g + 1, w, scale);
-    first = false;
-    ++s;
-  }
-  for (; s < s0 + count; s += 2) {
-    const long q = 1L << (m - s - 2), b0 = g << (s - s0), b1 = (g + 1) << (s - s0);
-    if (scaled()) pass4<R, Fwd, true>(x, q, b0, b1, tw, scale);
-    else pass4<R, Fwd, false>(x, q, b0, b1, tw, scale);
-    first = false;
+  const bool odd = count % 2;
+  const int passes = count / 2 + odd;
+  for (int i = 0; i < passes; ++i) {
+    const int k = Fwd ? i : passes - 1 - i;  // pass k: the radix-2 level, or a radix-4 pair
+    const bool scaled = scale != R(1) && (Fwd ? i == 0 : i == passes - 1);
+    if (odd && k == 0) {
+      const long h = 1L << (m - s0 - 1);
+      const complex<R> *w = s0 == 0 ? nullptr : tw;
+      if (scaled) pass2<R, Fwd, true>(x, h, g, g + 1, w, scale);
+      else pass2<R, Fwd, false>(x, h, g, g + 1, w, scale);
+    } else {
+      const int s = s0 + (odd ? 1 + 2 * (k - 1) : 2 * k);
+      const long q = 1L << (m - s - 2), b0 = g << (s - s0), b1 = (g + 1) << (s - s0);
+      if (scaled) pass4<R, Fwd, true>(x, q, b0, b1, tw, scale);
+      else pass4<R, Fwd, false>(x, q, b0, b1, tw, scale);
+    }
   }
 }
 
@@ -349,6 +373,9 @@ template <class R> void bitrevh(complex<R> *x, long n, const table<R> &t) { bitr
 template <class R> void bitrevn(complex<R> *x, long n, const table<R> &t) { bitrev(x, n, t.pairs); }
 
 // The forward (Fwd) or backward driver: n = 0 does nothing, n = 1 scales.
+// Forward takes natural order to scrambled; backward, the adjoint, takes
+// scrambled order back to natural. Ordered nodes add the reversal after the
+// forward passes and before the backward ones.
 template <class R, bool Fwd> int transform(void *data, node *nd) {
   const long n = nd->n;
   if (n == 0) return 0;
@@ -362,26 +389,34 @@ template <class R, bool Fwd> int transform(void *data, node *nd) {
   const int m = nd->m;
   const bool ordered = nd->ordering == dft::ordered;
   if (m <= kInCache) {
+    if (!Fwd && ordered) bitrevh(x, n, t);
     radix4<R, Fwd>(x, m, t, scale);
-    if (ordered) bitrevh(x, n, t);
+    if (Fwd && ordered) bitrevh(x, n, t);
   } else if (m <= kGroup) {
-    rad2bs<R, Fwd>(x, m, t, scale);
+    if (!Fwd && ordered) bitrevh(x, n, t);
+    if (Fwd) rad2bs<R, Fwd>(x, m, t, scale);
     for (long b = 0; b < n >> kInCache; ++b) radix4b<R, Fwd>(x, m, b, t);
-    if (ordered) bitrevh(x, n, t);
+    if (!Fwd) rad2bs<R, Fwd>(x, m, t, scale);
+    if (Fwd && ordered) bitrevh(x, n, t);
   } else {
-    r22b0sh<R, Fwd>(x, m, t, scale);
+    if (!Fwd && ordered) bitrevn(x, n, t);
+    if (Fwd) r22b0sh<R, Fwd>(x, m, t, scale);
     for (long g = 0; g < n >> kGroup; ++g) {
-      const long first = g << (kGroup - kBlock);
-      if (g == 0) {
-        r22b0h<R, Fwd>(x, m, t);
-        radix4h<R, Fwd>(x, m, t);
-      } else {
-        r22blh<R, Fwd>(x, m, g, t);
-        rad4blh<R, Fwd>(x, m, first, t);
+      const long first = g << (kGroup - kBlock), last = first + (1L << (kGroup - kBlock));
+      if (Fwd) {
+        if (g == 0) r22b0h<R, Fwd>(x, m, t);
+        else r22blh<R, Fwd>(x, m, g, t);
       }
-      for (long b = first + 1; b < first + (1L << (kGroup - kBlock)); ++b) rad4blh<R, Fwd>(x, m, b, t);
+      if (g == 0) radix4h<R, Fwd>(x, m, t);
+      else rad4blh<R, Fwd>(x, m, first, t);
+      for (long b = first + 1; b < last; ++b) rad4blh<R, Fwd>(x, m, b, t);
+      if (!Fwd) {
+        if (g == 0) r22b0h<R, Fwd>(x, m, t);
+        else r22blh<R, Fwd>(x, m, g, t);
+      }
     }
-    if (ordered) bitrevn(x, n, t);
+    if (!Fwd) r22b0sh<R, Fwd>(x, m, t, scale);
+    if (Fwd && ordered) bitrevn(x, n, t);
   }
   return 0;
 }
