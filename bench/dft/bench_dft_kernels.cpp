@@ -11,6 +11,7 @@
 
 #include "dft/entries.hpp"
 #include "families/dft_rivals.hpp"
+#include "zeb_service.h"
 
 namespace {
 

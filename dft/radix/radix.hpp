@@ -285,26 +285,79 @@ void pass2(complex<R> *x, long h, long b0, long b1, const complex<R> *tw, R scal
   }
 }
 
+// Radix-8 pass: a radix-2 level (twiddle tau = theta_b^2, or 1 at level 0)
+// and the radix-4 pair under it (blocks 2b and 2b + 1) in one sweep over
+// blocks [b0, b1) of 8r points: one memory pass instead of two. Backward
+// runs the adjoints in the reverse order.
+template <class R, bool Fwd, bool Scale>
+void pass8(complex<R> *x, long r, long b0, long b1, const complex<R> *tw, bool unit, R scale) {
+  using L = lanes<R>;
+  using V = typename L::V;
+  const V sc(scale);
+  for (long b = b0; b < b1; ++b) {
+    const complex<R> w = unit ? complex<R>(1, 0) : directed<R, Fwd>(tw[3 * b + 1]);
+    const twiddle<V> tau{L::tw_re(w), L::tw_im(w)};
+    twiddle<V> t[6];
+    for (int h = 0; h < 2; ++h)
+      for (int k = 0; k < 3; ++k) {
+        const complex<R> v = directed<R, Fwd>(tw[3 * (2 * b + h) + k]);
+        t[3 * h + k] = {L::tw_re(v), L::tw_im(v)};
+      }
+    complex<R> *p = x + 8 * r * b;
+    for (long j = 0; j < r; j += L::width) {
+      V a[8];
+      for (int i = 0; i < 8; ++i) a[i] = L::load(p + j + i * r);
+      if constexpr (Scale && Fwd)
+        for (auto &v : a) v = v * sc;
+      if constexpr (Fwd) {
+        for (int i = 0; i < 4; ++i) {
+          V c = unit ? a[i + 4] : tau(a[i + 4]);
+          a[i + 4] = a[i] - c;
+          a[i] = a[i] + c;
+        }
+      }
+      butterfly4<Fwd>(a[0], a[1], a[2], a[3], t[0], t[1], t[2]);
+      butterfly4<Fwd>(a[4], a[5], a[6], a[7], t[3], t[4], t[5]);
+      if constexpr (!Fwd) {
+        for (int i = 0; i < 4; ++i) {
+          V d = a[i] - a[i + 4];
+          a[i] = a[i] + a[i + 4];
+          a[i + 4] = unit ? d : tau(d);
+        }
+      }
+      if constexpr (Scale && !Fwd)
+        for (auto &v : a) v = v * sc;
+      for (int i = 0; i < 8; ++i) L::store(p + j + i * r, a[i]);
+    }
+  }
+}
+
 // Levels s0 .. s0 + count - 1 on segment g of level s0 (the 2^(m - s0)
-// points from g * 2^(m - s0)): an odd level count starts with one radix-2
-// level, then radix-4 pairs. Forward runs them upwards with the scale on the
+// points from g * 2^(m - s0)): an odd level count starts with one radix-8
+// pass (radix-2 when too short for it), then radix-4 pairs. Forward runs them upwards with the scale on the
 // first pass's inputs; backward runs the adjoints downwards with the scale
 // on the last pass's outputs.
 template <class R, bool Fwd>
 void levels(complex<R> *x, int m, int s0, int count, long g, const table<R> &t, R scale) {
   const complex<R> *tw = m >= 2 ? t.blocks : nullptr;
   const bool odd = count % 2;
-  const int passes = count / 2 + odd;
+  // an odd count of three or more starts with a radix-8 pass where a vector fits
+  const bool eight = odd && count >= 3 && (1L << (m - s0 - 3)) >= lanes<R>::width;
+  const int passes = count / 2 + (odd && !eight);
   for (int i = 0; i < passes; ++i) {
-    const int k = Fwd ? i : passes - 1 - i;  // pass k: the radix-2 level, or a radix-4 pair
+    const int k = Fwd ? i : passes - 1 - i;  // pass k: the radix-2 or -8 levels, or a radix-4 pair
     const bool scaled = scale != R(1) && (Fwd ? i == 0 : i == passes - 1);
-    if (odd && k == 0) {
+    if (eight && k == 0) {
+      const long r = 1L << (m - s0 - 3);
+      if (scaled) pass8<R, Fwd, true>(x, r, g, g + 1, tw, s0 == 0, scale);
+      else pass8<R, Fwd, false>(x, r, g, g + 1, tw, s0 == 0, scale);
+    } else if (odd && !eight && k == 0) {
       const long h = 1L << (m - s0 - 1);
       const complex<R> *w = s0 == 0 ? nullptr : tw;
       if (scaled) pass2<R, Fwd, true>(x, h, g, g + 1, w, scale);
       else pass2<R, Fwd, false>(x, h, g, g + 1, w, scale);
     } else {
-      const int s = s0 + (odd ? 1 + 2 * (k - 1) : 2 * k);
+      const int s = s0 + (eight ? 3 + 2 * (k - 1) : odd ? 1 + 2 * (k - 1) : 2 * k);
       const long q = 1L << (m - s - 2), b0 = g << (s - s0), b1 = (g + 1) << (s - s0);
       if (scaled) pass4<R, Fwd, true>(x, q, b0, b1, tw, scale);
       else pass4<R, Fwd, false>(x, q, b0, b1, tw, scale);

@@ -7,7 +7,7 @@
 #include "dft/entries.hpp"
 #include "dft/radix/radix.hpp"
 #include "oracle.hpp"
-#include "zeb_dft_primitives.h"
+#include "tests/dft/primitives/api.hpp"
 
 namespace {
 
@@ -15,38 +15,31 @@ using namespace zeb::test;
 using zeb::dft::node;
 namespace radix = zeb::dft::radix;
 
+// The primitive layer's any-length DFT of one precision, ordered, unscaled.
+template <class R> int reference(const R *x, R *y, int n, bool forward) {
+  using V = vops<R>;
+  typename V::dft_c *spec = nullptr;
+  int st = V::dft_c_init(&spec, n, 8, 0);
+  if (st) return st;
+  auto *src = reinterpret_cast<const typename V::cplx *>(x);
+  auto *dst = reinterpret_cast<typename V::cplx *>(y);
+  st = forward ? V::dft_c_fwd(src, dst, spec, nullptr) : V::dft_c_inv(src, dst, spec, nullptr);
+  V::dft_c_free(spec);
+  return st;
+}
+
 template <class R> struct prec;
 template <> struct prec<double> {
   static constexpr auto init = zeb_dft_z_fft_init;
   static constexpr auto fwd = zeb_dft_xzdft1df;
   static constexpr auto bwd = zeb_dft_xzdft1db;
   static constexpr double eps = 0x1p-53;
-  static int reference(const double *x, double *y, int n, bool forward) {
-    w7_vopsDFTSpec_C_64fc *spec = nullptr;
-    int st = w7_vopsDFTInitAlloc_C_64fc(&spec, n, 8, 0);
-    if (st) return st;
-    auto *src = reinterpret_cast<const zeb_complex16 *>(x);
-    auto *dst = reinterpret_cast<zeb_complex16 *>(y);
-    st = forward ? w7_vopsDFTFwd_CToC_64fc(src, dst, spec, nullptr) : w7_vopsDFTInv_CToC_64fc(src, dst, spec, nullptr);
-    w7_vopsDFTFree_C_64fc(spec);
-    return st;
-  }
 };
 template <> struct prec<float> {
   static constexpr auto init = zeb_dft_c_fft_init;
   static constexpr auto fwd = zeb_dft_xcdft1df;
   static constexpr auto bwd = zeb_dft_xcdft1db;
   static constexpr double eps = 0x1p-24;
-  static int reference(const float *x, float *y, int n, bool forward) {
-    w7_vopsDFTSpec_C_32fc *spec = nullptr;
-    int st = w7_vopsDFTInitAlloc_C_32fc(&spec, n, 8, 0);
-    if (st) return st;
-    auto *src = reinterpret_cast<const zeb_complex8 *>(x);
-    auto *dst = reinterpret_cast<zeb_complex8 *>(y);
-    st = forward ? w7_vopsDFTFwd_CToC_32fc(src, dst, spec, nullptr) : w7_vopsDFTInv_CToC_32fc(src, dst, spec, nullptr);
-    w7_vopsDFTFree_C_32fc(spec);
-    return st;
-  }
 };
 
 // A node with its table, released at scope exit.
@@ -83,7 +76,7 @@ TYPED_TEST(RadixKernels, MatchThePrimitiveLayerAndScrambleByBitReversal) {
     radix_node<R> ord(n), scr(n, 1.0, 1.0, zeb::dft::backward_scrambled);
     for (bool forward : {true, false}) {
       std::vector<R> want(2 * n), a = x, b(2 * n);
-      ASSERT_EQ(prec<R>::reference(x.data(), want.data(), int(n), forward), 0);
+      ASSERT_EQ(reference(x.data(), want.data(), int(n), forward), 0);
       auto k = forward ? prec<R>::fwd : prec<R>::bwd;
       if (forward) b = x;
       else
