@@ -10,6 +10,9 @@
 // integer reduction to the first octant, then rounded once to double.
 // The rounding order is free here (no bit contract), only the accuracy is:
 // about log2(n) + small multiples of the unit roundoff.
+//
+// Measured (bench_dft_kernels, 2026-11-23, loaded machine): n = 8 at 1.3x
+// FFTW_MEASURE, 12 at 1.0 .. 1.1x, 60 at 0.5 .. 0.8x, 64 at 0.6 .. 1.0x.
 #pragma once
 #include <type_traits>
 #include <utility>

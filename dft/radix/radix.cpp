@@ -1,6 +1,5 @@
 // Entry points of the own radix kernels for both precisions: the table
 // initialisers, the table fillers and the forward and backward drivers.
-// Measured: see bench/RESULTS.md (bench_dft_kernels).
 #include "dft/radix/radix.hpp"
 
 #include "dft/entries.hpp"

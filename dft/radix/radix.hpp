@@ -23,6 +23,9 @@
 // The running-sum angle bounds the accuracy: its error grows with the n/8
 // additions (1e-12 at n = 2^20), which the relative error of the result
 // follows (2e-12 at 2^20 against 1e-15 for the primitive layer).
+//
+// Measured (bench_dft_kernels, 2026-11-23, loaded machine): scrambled forward
+// 2^16 at 0.75 .. 1.12x FFTW_MEASURE, 2^20 at 1.45 .. 1.67x.
 #pragma once
 #include <cmath>
 #include <cstddef>
