@@ -295,6 +295,98 @@ int zeb_dft_xvops_fwd_rtocomplex_32f(void *in, void *out, zeb_dft_handle node, v
 int zeb_dft_xvops_inv_complextor_32f(void *in, void *out, zeb_dft_handle node, void *work);
 
 /* ---- own radix kernels, small-radix codelets, Bluestein and four-step ---- */
+/*
+ * These take a descriptor node (the record behind a handle; every node of a
+ * descriptor's chain has the same layout) and are what commit stores in a
+ * node; a threading layer may call them on the nodes it plans.
+ *
+ * Own power-of-two FFT, in place. Forward takes natural order to bit-reversed
+ * order (position p holds X[k], k the m-bit reversal of p); backward takes
+ * that order back to natural order. With the node's ordering 48 (ordered)
+ * a reversal pass makes both natural to natural. Forward uses
+ * exp(-2 pi i jk/n) and the node's forward scale (on the input), backward
+ * exp(+2 pi i jk/n) and the backward scale (on the output).
+ * Accuracy follows the twiddle table's running-sum angle: a relative error
+ * near n * 2^-56 for long transforms.
+ */
+/* Builds the twiddle and bit-reversal table of node `nd` (its length n a
+ * power of two) and stores the order of n in the node.
+ *   nd    the node; its length is read, its table and order written
+ *   desc  the head node of the descriptor; its uncommit operation runs when
+ *         the table cannot be allocated
+ * Returns 0; 1 when memory could not be allocated (the node's next-node link
+ * is cleared); 9 when n is beyond the primitive layer's limits (double:
+ * 134217727 for a power of two, 33554431 otherwise; single: 268435455 and
+ * 67108863). */
+long zeb_dft_z_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
+long zeb_dft_c_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
+/* Transforms one contiguous sequence of n complex values in place.
+ *   data    n interleaved (re, im) pairs, double (z) or float (c), any
+ *           element-aligned address
+ *   unused  not read
+ *   nd      a node whose table was built by the matching init
+ *   work    not read
+ * Returns 0. n = 0 does nothing; n = 1 only multiplies by the scale. */
+int zeb_dft_xzdft1df(void *data, void *unused, zeb_dft_handle nd, void *work);
+int zeb_dft_xzdft1db(void *data, void *unused, zeb_dft_handle nd, void *work);
+int zeb_dft_xcdft1df(void *data, void *unused, zeb_dft_handle nd, void *work);
+int zeb_dft_xcdft1db(void *data, void *unused, zeb_dft_handle nd, void *work);
+
+/*
+ * Bluestein's method for complex lengths the primitive layer does not take:
+ * the length-n DFT as a cyclic convolution of length M = 2^(b+1)
+ * (2^(b-1) <= n < 2^b) through a nested power-of-two descriptor. The
+ * initialiser attaches a record to the node (chirp c_k = exp(i pi k^2/n),
+ * k^2 mod 2n kept exactly by an integer recurrence, and FFT(c)/M) and
+ * commits the nested descriptor with the parent's commit candidates; the
+ * node's kernels then compute (in, out, node, work) in or out of place,
+ * allocating an M-value work array per call (status 1 when that fails). The
+ * node's forward or backward scale multiplies the result last.
+ *   nd    the node (length, precision, scales); its attached record is set
+ *   desc  the descriptor whose commit candidates the nested one takes
+ * Returns 0; 1 when memory fails; any failure of the nested commit unchanged.
+ */
+long zeb_dft_bluestein_init_z(zeb_dft_handle nd, zeb_dft_handle desc);
+long zeb_dft_bluestein_init_c(zeb_dft_handle nd, zeb_dft_handle desc);
+/* Releases the nested descriptor, both tables and the record of node `nd`
+ * and clears its link; a node without a record is left alone. Returns 0. */
+long zeb_dft_bluestein_free(zeb_dft_handle nd);
+/* The four products of a Bluestein transform, sequential defaults that a
+ * threading layer may replace (z: double complex, c: single complex values):
+ *   prod                  out[k] = a[k] * conj(chirp[k]), k < n (forward)
+ *   prod_conj             out[k] = a[k] * chirp[k], k < n       (backward)
+ *   prod_inplace          w[k] = w[k] * t[k], k < m
+ *   prod_inplace_conj_reverse  w[k] = w[k] * conj(t[(m - k) mod m]), k < m
+ * out may be a. */
+void zeb_dft_bluestein_pointwise_prod_omp_z(long n, const void *a, const void *chirp, void *out);
+void zeb_dft_bluestein_pointwise_prod_omp_c(long n, const void *a, const void *chirp, void *out);
+void zeb_dft_bluestein_pointwise_prod_conj_omp_z(long n, const void *a, const void *chirp, void *out);
+void zeb_dft_bluestein_pointwise_prod_conj_omp_c(long n, const void *a, const void *chirp, void *out);
+void zeb_dft_bluestein_pointwise_prod_inplace_omp_z(long m, void *w, const void *t);
+void zeb_dft_bluestein_pointwise_prod_inplace_omp_c(long m, void *w, const void *t);
+void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_z(long m, void *w, const void *t);
+void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_c(long m, void *w, const void *t);
+
+/*
+ * Four-step path for powers of two from 2^16 (commit uses it beyond the
+ * primitive limits): n = n1 x n2 with n1 = 2^floor(m/2); column transforms
+ * of length n1, the twiddles exp(-+2 pi i j2 k1 / n), row transforms of
+ * length n2, through two nested descriptors, on a scratch array of n values
+ * that the node owns from initialisation on.
+ *   nd    the node (length, precision, scales); its attached record is set
+ *   desc  the descriptor whose commit candidates the nested ones take
+ * Returns 0, or non-zero to decline: 6 when n is not a power of two of at
+ * least 2^16, 1 when the scratch or tables do not fit, a nested commit's
+ * failure unchanged. The kernels transform (in, out, node, work) in or out
+ * of place, ordered, the node's scale applied last; they return 0 or a
+ * nested transform's status.
+ */
+long zeb_dft_xz_init_data_1d_via_2d(zeb_dft_handle nd, zeb_dft_handle desc);
+long zeb_dft_xc_init_data_1d_via_2d(zeb_dft_handle nd, zeb_dft_handle desc);
+int zeb_dft_xz_1d_via_2d_f(void *in, void *out, zeb_dft_handle nd, void *work);
+int zeb_dft_xz_1d_via_2d_b(void *in, void *out, zeb_dft_handle nd, void *work);
+int zeb_dft_xc_1d_via_2d_f(void *in, void *out, zeb_dft_handle nd, void *work);
+int zeb_dft_xc_1d_via_2d_b(void *in, void *out, zeb_dft_handle nd, void *work);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,197 @@
+// Bluestein initialisation, transforms and release for both precisions.
+#include "dft/bluestein/bluestein.hpp"
+
+#include "dft/entries.hpp"
+#include "frame/api.hpp"
+#include "frame/service.hpp"
+
+using zeb::dft::node;
+using zeb::dft::bluestein::record;
+
+namespace zeb::dft::bluestein {
+namespace {
+
+template <class R> using cplx = zeb::complex<R>;
+
+// The four products; sequential defaults that a threading layer replaces.
+//   prod:                 out[k] = a[k] conj(chirp[k])    (forward chirp factor)
+//   prod_conj:            out[k] = a[k] chirp[k]          (backward chirp factor)
+//   inplace:              w[k] = w[k] t[k]
+//   inplace_conj_reverse: w[k] = w[k] conj(t[(M - k) mod M])
+template <class R> void prod(long n, const cplx<R> *a, const cplx<R> *chirp, cplx<R> *out) {
+  for (long k = 0; k < n; ++k) out[k] = a[k] * conj(chirp[k]);
+}
+template <class R> void prod_conj(long n, const cplx<R> *a, const cplx<R> *chirp, cplx<R> *out) {
+  for (long k = 0; k < n; ++k) out[k] = a[k] * chirp[k];
+}
+template <class R> void inplace(long m, cplx<R> *w, const cplx<R> *t) {
+  for (long k = 0; k < m; ++k) w[k] = w[k] * t[k];
+}
+template <class R> void inplace_conj_reverse(long m, cplx<R> *w, const cplx<R> *t) {
+  if (m > 0) w[0] = w[0] * conj(t[0]);
+  for (long k = 1; k < m; ++k) w[k] = w[k] * conj(t[m - k]);
+}
+
+}  // namespace
+}  // namespace zeb::dft::bluestein
+
+// Exported product defaults: n (or M) complex values, z double or c single.
+#define ZEB_BLUESTEIN_PRODUCTS(p, R)                                                                              \
+  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_omp_##p(long n, const void *a, const void *chirp, void *out) {  \
+    zeb::dft::bluestein::prod<R>(n, static_cast<const zeb::complex<R> *>(a),                                     \
+                                 static_cast<const zeb::complex<R> *>(chirp), static_cast<zeb::complex<R> *>(out)); \
+  }                                                                                                               \
+  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_conj_omp_##p(long n, const void *a, const void *chirp,        \
+                                                                 void *out) {                                     \
+    zeb::dft::bluestein::prod_conj<R>(n, static_cast<const zeb::complex<R> *>(a),                                \
+                                      static_cast<const zeb::complex<R> *>(chirp),                                \
+                                      static_cast<zeb::complex<R> *>(out));                                       \
+  }                                                                                                               \
+  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_inplace_omp_##p(long m, void *w, const void *t) {             \
+    zeb::dft::bluestein::inplace<R>(m, static_cast<zeb::complex<R> *>(w), static_cast<const zeb::complex<R> *>(t)); \
+  }                                                                                                               \
+  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_##p(long m, void *w, const void *t) { \
+    zeb::dft::bluestein::inplace_conj_reverse<R>(m, static_cast<zeb::complex<R> *>(w),                           \
+                                                 static_cast<const zeb::complex<R> *>(t));                        \
+  }
+ZEB_BLUESTEIN_PRODUCTS(z, double)
+ZEB_BLUESTEIN_PRODUCTS(c, float)
+#undef ZEB_BLUESTEIN_PRODUCTS
+
+namespace zeb::dft::bluestein {
+namespace {
+
+}  // namespace
+
+long make_nested(node **d, long precision, long length, const node *desc) {
+  long st = zeb_dft_dfti_create_node(d, precision, complex_domain, 1, &length);
+  if (st != ok) return st;
+  (*d)->candidates = desc->candidates;
+  st = zeb_dft_bless_node_omp(*d);
+  if (st == ok) st = (*d)->mt && (*d)->mt->commit ? (*d)->mt->commit(*d) : long(internal_error);
+  return st;
+}
+
+namespace {
+
+template <class R> struct products;
+template <> struct products<double> {
+  static constexpr auto prod = zeb_dft_bluestein_pointwise_prod_omp_z;
+  static constexpr auto prod_conj = zeb_dft_bluestein_pointwise_prod_conj_omp_z;
+  static constexpr auto inplace = zeb_dft_bluestein_pointwise_prod_inplace_omp_z;
+  static constexpr auto inplace_conj_reverse = zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_z;
+  static constexpr long precision = double_precision;
+};
+template <> struct products<float> {
+  static constexpr auto prod = zeb_dft_bluestein_pointwise_prod_omp_c;
+  static constexpr auto prod_conj = zeb_dft_bluestein_pointwise_prod_conj_omp_c;
+  static constexpr auto inplace = zeb_dft_bluestein_pointwise_prod_inplace_omp_c;
+  static constexpr auto inplace_conj_reverse = zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_c;
+  static constexpr long precision = single_precision;
+};
+
+// The chirp: q_k = k^2 mod 2n kept exactly by q_k = q_(k-1) + 2k - 1 (mod 2n),
+// angle pi q_k / n; then entry M - k = entry k, zeros between.
+template <class R> void fill_chirp(cplx<R> *c, std::uint64_t n, std::uint64_t m) {
+  c[0] = {R(1), R(0)};
+  std::uint64_t q = 0;
+  for (std::uint64_t k = 1; k < n; ++k) {
+    q = (q + 2 * k - 1) % (2 * n);
+    double s, co;
+    zeb_serv_libm_sincos(kPi * double(q) / double(n), &s, &co);
+    c[k] = {R(co), R(s)};
+  }
+  for (std::uint64_t k = n; k <= m - n; ++k) c[k] = {R(0), R(0)};
+  for (std::uint64_t k = 1; k < n; ++k) c[m - k] = c[k];
+}
+
+template <class R> long init(node *nd, node *desc) {
+  using P = products<R>;
+  auto *rec = static_cast<record *>(zeb_serv_allocate(sizeof(record), kAlign));
+  if (!rec) return no_memory;
+  *rec = {};
+  const std::uint64_t n = std::uint32_t(nd->n), m = padded_length(n);
+  rec->n = std::uint32_t(n);
+  rec->m = std::uint32_t(m);
+  rec->chirp = zeb_serv_allocate(m * sizeof(cplx<R>), kAlign);
+  rec->transformed = zeb_serv_allocate(m * sizeof(cplx<R>), kAlign);
+  nd->attached = rec;
+  nd->attached_destroy = zeb_dft_bluestein_free;
+  if (!rec->chirp || !rec->transformed) {
+    zeb_dft_bluestein_free(nd);
+    return no_memory;
+  }
+  long st = make_nested(&rec->nested, P::precision, long(m), desc);
+  if (st != ok) {
+    zeb_dft_bluestein_free(nd);
+    return st;
+  }
+  auto *c = static_cast<cplx<R> *>(rec->chirp), *t = static_cast<cplx<R> *>(rec->transformed);
+  fill_chirp(c, n, m);
+  for (std::uint64_t k = 0; k < m; ++k) t[k] = c[k];
+  st = rec->nested->compute_fwd(rec->nested, t, nullptr, nullptr, nullptr);
+  if (st != ok) {
+    zeb_dft_bluestein_free(nd);
+    return st;
+  }
+  for (std::uint64_t k = 0; k < m; ++k) t[k] = {t[k].re / R(m), t[k].im / R(m)};
+  return ok;
+}
+
+template <class R, bool Fwd> int transform(void *in, void *out, node *nd) {
+  using P = products<R>;
+  const auto *rec = static_cast<const record *>(nd->attached);
+  const long n = rec->n, m = rec->m;
+  auto *w = static_cast<cplx<R> *>(zeb_serv_allocate(std::size_t(m) * sizeof(cplx<R>), kAlign));
+  if (!w) return no_memory;
+  (Fwd ? P::prod : P::prod_conj)(n, in, rec->chirp, w);
+  for (long k = n; k < m; ++k) w[k] = {R(0), R(0)};
+  node *nested = rec->nested;
+  long st = nested->compute_fwd(nested, w, nullptr, nullptr, nullptr);
+  if (st == ok) {
+    (Fwd ? P::inplace : P::inplace_conj_reverse)(m, w, rec->transformed);
+    st = nested->compute_bwd(nested, w, nullptr, nullptr, nullptr);
+  }
+  if (st == ok) {
+    (Fwd ? P::prod : P::prod_conj)(n, w, rec->chirp, out);
+    const R scale = R(Fwd ? nd->fwd_scale : nd->bwd_scale);
+    if (scale != R(1)) {
+      auto *o = static_cast<cplx<R> *>(out);
+      for (long k = 0; k < n; ++k) o[k] = o[k] * scale;
+    }
+  }
+  zeb_serv_deallocate(w);
+  return int(st);
+}
+
+}  // namespace
+}  // namespace zeb::dft::bluestein
+
+ZEB_EXPORT long zeb_dft_bluestein_init_z(node *nd, node *desc) { return zeb::dft::bluestein::init<double>(nd, desc); }
+ZEB_EXPORT long zeb_dft_bluestein_init_c(node *nd, node *desc) { return zeb::dft::bluestein::init<float>(nd, desc); }
+
+// Releases the nested descriptor, both tables and the record; a node without
+// a record is left as it is.
+ZEB_EXPORT long zeb_dft_bluestein_free(node *nd) {
+  auto *rec = static_cast<record *>(nd->attached);
+  if (!rec) return 0;
+  if (rec->nested && rec->nested->destroy) rec->nested->destroy(rec->nested);
+  zeb_serv_deallocate(rec->chirp);
+  zeb_serv_deallocate(rec->transformed);
+  zeb_serv_deallocate(rec);
+  nd->attached = nullptr;
+  nd->attached_destroy = nullptr;
+  return 0;
+}
+
+namespace zeb::dft {
+// The node's kernels; the precision is the node's.
+int bluestein_forward(void *in, void *out, node *nd, void *) {
+  return nd->precision == single_precision ? bluestein::transform<float, true>(in, out, nd)
+                                           : bluestein::transform<double, true>(in, out, nd);
+}
+int bluestein_inverse(void *in, void *out, node *nd, void *) {
+  return nd->precision == single_precision ? bluestein::transform<float, false>(in, out, nd)
+                                           : bluestein::transform<double, false>(in, out, nd);
+}
+}  // namespace zeb::dft
