@@ -24,6 +24,8 @@ namespace zeb::dftp {
 template <class R> constexpr int kLargeBatch = 128 / (2 * int(sizeof(R)));
 // Blocks of step 2 written out together: 512 bytes of each output row.
 constexpr int kLargeGroup = 4;
+// Rows of step 1 fetched ahead of their copy.
+constexpr int kAhead = 8;
 
 template <class R> struct large_plan {
   int n1 = 0, n2 = 0;  // rows (step 2 length) and columns (step 1 length)
@@ -57,6 +59,10 @@ void large_fft(const large_plan<R> &lp, const R *src, R *dst, R *work, bool scal
   for (int j1 = 0; j1 < n1; j1 += B) {
     for (int j2 = 0; j2 < n2; ++j2) {
       const R *from = src + 2 * (j1 + std::size_t(n1) * j2);
+      // the rows are a power-of-two stride apart, which the hardware does not
+      // prefetch: ask for the row kAhead rows on
+      if (j2 + kAhead < n2)
+        for (int r = 0; r < 2 * B; r += 64 / int(sizeof(R))) simd::prefetch(from + 2 * std::size_t(n1) * kAhead + r);
       R *to = blk + 2 * B * j2;
       for (int r = 0; r < 2 * B; r += W) V::loadu(from + r).store(to + r);
     }

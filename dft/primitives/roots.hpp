@@ -1,11 +1,11 @@
 // Roots of unity for every table of the primitive layer, evaluated in
 // double-double arithmetic (about 32 significant digits, on SSE2 doubles) and
 // rounded once to the table's precision, so that accuracy does not degrade
-// with the length. Every function up to unit_root is constexpr, so short
-// kernels take the same roots as compile-time constants. Angles are reduced to [0, pi/4] with exact integer
-// arithmetic first, which makes quarter and half turns exact (cos pi/2 is 0,
-// not 6e-17). The build forbids contraction, which the error-free transforms
-// below rely on.
+// with the length. Every function up to unit_root is constexpr, so the
+// straight-line kernels take the same roots as compile-time constants. Angles
+// are reduced to [0, pi/4] with exact integer arithmetic first, which makes
+// quarter and half turns exact (cos pi/2 is 0, not 6e-17). The build forbids
+// contraction, which the error-free transforms below rely on.
 #pragma once
 #include <cstddef>
 

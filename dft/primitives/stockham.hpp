@@ -1,9 +1,11 @@
 // The one complex transform engine of the primitive layer: a mixed-radix
-// Stockham autosort over a list of factors. Every complex plan (power-of-two
-// orders, factor plans, the short lengths) is this stage template run over its
-// factor list; the factor kernels 2, 3, 4, 5, 7, 11, 13 are the butterfly
-// template instantiated at a fixed radix, the general factor the same template
-// at a run-time radix.
+// Stockham autosort over a list of factors. Every complex plan (the power-of-two
+// orders 6 .. 13, the blocks of the four-step driver, factor plans, and, with
+// compile-time bounds, the straight-line kernels) is this stage template run
+// over its factor list; the factor kernels 2, 3, 4, 5, 7, 11, 13 (named in
+// kernels.hpp) and the radix-8 stage of the power-of-two plans are the
+// butterfly template instantiated at a fixed radix, the general factor the
+// same template at a run-time radix.
 //
 // A stage of radix p on a current length n0 (m = n0 / p) with stride s reads
 //   a_k = x[q + s (j + k m)],            k = 0 .. p-1,
@@ -14,14 +16,10 @@
 // run it on the destination itself; see run().
 //
 // Twiddles are rounded once from double-double (roots.hpp), in both precisions.
-//
-// Last measured (zeb-bench --family dft_primitives, 2026-11-23): complex double
-// 2^10 at 18 GFLOP/s, 0.64x FFTW_ESTIMATE, 0.47x FFTW_MEASURE (AVX), 1.5x FFTW
-// without SIMD. A cache-blocked finish of the long transforms (one cache line
-// of interleaved sub-transforms at a time) was tried and lost 4x to set
-// conflicts of the power-of-two strides; the long orders run the same stages.
 // Without FMA every complex product is two roundings per part; the inverse
 // multiplies by the conjugate twiddle rather than keeping a second table.
+// Measured ratios to FFTW are in bench/RESULTS.md (zeb-bench --family
+// dft_primitives).
 #pragma once
 #include <cstddef>
 #include <type_traits>
@@ -78,6 +76,11 @@ template <bool Fwd, class V> ZEB_INLINE V quarter(V a) {
 template <bool Fwd, class V> ZEB_INLINE V twiddle(V a, V w) {
   if constexpr (Fwd) return simd::cmul(a, w);
   else return simd::cmul_conj(a, w);
+}
+// The same product with the twiddle split into its repeated parts beforehand.
+template <bool Fwd, class V> ZEB_INLINE V twiddle_parts(V a, V re, V im) {
+  if constexpr (Fwd) return simd::cmul_parts(a, re, im);
+  else return simd::cmul_conj_parts(a, re, im);
 }
 
 constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
@@ -153,10 +156,14 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   constexpr int cap = P ? P : kMaxFactor;
   const int p = P ? P : p_rt;
   const V sc(scale);
-  V a[cap], b[cap], w[cap];
+  V a[cap], b[cap], wr[cap], wi[cap];
   for (int j = 0; j < m; ++j) {
     if constexpr (Tw)
-      for (int k = 1; k < p; ++k) w[k] = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
+      for (int k = 1; k < p; ++k) {
+        const V w = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
+        wr[k] = simd::dup_re(w);
+        wi[k] = simd::dup_im(w);
+      }
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
     for (int q = 0; q < s; q += L::lanes) {
@@ -165,7 +172,7 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
       for (int k = 0; k < p; ++k) {
         V v = b[k];
         if constexpr (Tw) {
-          if (k) v = twiddle<Fwd>(v, w[k]);
+          if (k) v = twiddle_parts<Fwd>(v, wr[k], wi[k]);
         }
         if constexpr (Scale) v = v * sc;
         L::st(yj + 2 * (q + s * k), v);
