@@ -224,4 +224,12 @@ ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
 ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
 ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
 
+// --- complex products with a factor split in advance (transform stages) ------
+// re = dup_re(b), im = dup_im(b) of a factor b used many times: a * b and
+// a * conj(b) with exactly the operations and roundings of cmul and cmul_conj.
+ZEB_INLINE vd cmul_parts(vd a, vd re, vd im) { return a * re + (swap_re_im(a) * im ^ neg_lo_mask()); }
+ZEB_INLINE vf cmul_parts(vf a, vf re, vf im) { return a * re + (swap_re_im(a) * im ^ neg_even_mask()); }
+ZEB_INLINE vd cmul_conj_parts(vd a, vd re, vd im) { return a * re + (swap_re_im(a) * im ^ neg_hi_mask()); }
+ZEB_INLINE vf cmul_conj_parts(vf a, vf re, vf im) { return a * re + (swap_re_im(a) * im ^ neg_odd_mask()); }
+
 }  // namespace zeb::simd

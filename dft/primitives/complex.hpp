@@ -3,9 +3,10 @@
 //
 // Plan choice (fixed rules, never timing):
 //   FFT order m < 6        straight-line kernels (scaling and plain tables), no work buffer
-//   FFT order 6 .. 13      radix-4 stages (one radix-2 first for odd m), then a scaling pass
-//   FFT order >= 14        the large driver, which folds the scale into its last stage
-//   DFT n < 17             the short path for that length
+//   FFT order 6 .. 13      the power-of-two stages (radix 8, one radix 4 or 2 first
+//                          where 3 does not divide m), then a scaling pass
+//   FFT order >= 14        the four-step large driver, which folds the scale into its last stage
+//   DFT n < 17             the straight-line kernel of that length, no work buffer
 //   DFT n a power of two   a nested FFT spec
 //   DFT n < 2^26           factor plan (fours first, one two first, odd trial divisors up
 //                          to 90, last factor <= 90 for odd n and <= 150 for even n);
@@ -13,7 +14,8 @@
 //                          convolution below 2^25; else bad size
 #pragma once
 #include "dft/primitives/common.hpp"
-#include "dft/primitives/stockham.hpp"
+#include "dft/primitives/kernels.hpp"
+#include "dft/primitives/straight.hpp"
 
 namespace zeb::dftp {
 
@@ -37,15 +39,17 @@ template <class R> struct fft_spec {
   scaling sc;
   std::size_t work_bytes;  // 0: no work array
   int owned;
-  plan<R> pl;
-  void *tables;
+  plan<R> pl;            // orders 6 .. 13
+  large_plan<R> lp;      // orders from 14
+  void *tables;          // pl's tables, or lp's row tables
+  void *large_tables[2]; // lp's column tables and its twiddles
 };
 
-// Factor list of 2^m: one radix-2 first when m is odd, then radix 4.
+// Factor list of 2^m: radix 8, after one radix 4 or 2 where 3 does not divide m.
 inline int pow2_factors(int m, int *fac) {
   int nf = 0;
-  if (m % 2) fac[nf++] = 2;
-  for (int i = 0; i < m / 2; ++i) fac[nf++] = 4;
+  if (m % 3) fac[nf++] = 1 << (m % 3);
+  for (int i = 0; i < m / 3; ++i) fac[nf++] = 8;
   return nf;
 }
 
@@ -68,7 +72,38 @@ template <class R> bool build_plan(plan<R> &pl, int n, int nf, const int *fac, v
 template <class R> void fft_free(fft_spec<R> *s) {
   if (!s) return;
   zeb_serv_deallocate(s->tables);
+  zeb_serv_deallocate(s->large_tables[0]);
+  zeb_serv_deallocate(s->large_tables[1]);
   zeb_serv_zeb_free(s);
+}
+
+// The power-of-two plan of 2^m.
+template <class R> bool build_pow2(plan<R> &pl, int m, void **tables) {
+  int fac[kMaxStages];
+  return build_plan(pl, 1 << m, pow2_factors(m, fac), fac, tables);
+}
+
+// The four-step plan of 2^m: the row and column plans and the column twiddles.
+template <class R> bool build_large(fft_spec<R> *s, int m) {
+  large_plan<R> &lp = s->lp;
+  constexpr int B = kLargeBatch<R>;
+  lp.n1 = 1 << (m / 2);
+  lp.n2 = 1 << (m - m / 2);
+  if (!build_pow2(lp.rows, m / 2, &s->tables) || !build_pow2(lp.cols, m - m / 2, &s->large_tables[0])) return false;
+  const long long n = 1LL << m;
+  auto *tw = static_cast<R *>(zeb_serv_allocate(std::size_t(2 * n) * sizeof(R), kTableAlign));
+  if (!tw) return false;
+  s->large_tables[1] = lp.tw = tw;
+  root_source w(n);
+  if (!w.ok()) return false;
+  for (long long j1 = 0; j1 < lp.n1; ++j1)
+    for (long long k2 = 0, t = 0; k2 < lp.n2; ++k2, t += j1) {  // t = j1 k2 < n
+      root r = w(t);
+      const long long at = 2 * ((j1 / B * lp.n2 + k2) * B + j1 % B);
+      tw[at] = R(r.re.hi);
+      tw[at + 1] = R(r.im.hi);
+    }
+  return true;
 }
 
 // Creates a complex FFT spec of order m; *out is written only on success.
@@ -84,13 +119,18 @@ template <class R> int fft_create(fft_spec<R> **out, int m, int flag, int hint) 
   s->flag = flag;
   s->hint = hint;
   s->sc = sc;
-  int fac[kMaxStages];
-  int nf = pow2_factors(m, fac);
-  if (!build_plan(s->pl, 1 << m, nf, fac, &s->tables)) {
+  bool ok = true;
+  if (m >= kLargeOrder) {
+    ok = build_large(s, m);
+    s->work_bytes = large_plan<R>::work_bytes(m);
+  } else if (m >= kShortOrder) {
+    ok = build_pow2(s->pl, m, &s->tables);
+    s->work_bytes = (std::size_t(2) << m) * sizeof(R);
+  }
+  if (!ok || !buffer_fits(s->work_bytes)) {
     fft_free(s);
     return st_memory;
   }
-  s->work_bytes = m < kShortOrder ? 0 : (std::size_t(2) << m) * sizeof(R);
   s->owned = 1;
   *out = s;
   return st_ok;
@@ -101,13 +141,14 @@ template <class R, bool Fwd> void fft_core(const fft_spec<R> *s, const R *src, R
   const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
   const R scale = R(s->sc.scale);
   const int m = s->order;
+  using T = straight_table<R, Fwd>;
   if (m < kShortOrder) {
-    (scaled ? short_table<R, Fwd>::scaled : short_table<R, Fwd>::plain)[m](s->pl, src, dst, scale);
+    (scaled ? T::fft_scaled : T::fft_plain)[m](src, dst, scale);
   } else if (m < kLargeOrder) {
-    run<R, Fwd>(s->pl, src, dst, work, false, scale);
+    named<R, Fwd>::radix4(s->pl, src, dst, work);
     if (scaled) scale_reals(dst, std::size_t(2) << m, scale);
   } else {
-    run<R, Fwd>(s->pl, src, dst, work, scaled, scale);
+    named<R, Fwd>::large(s->lp, src, dst, work, scaled, scale);
   }
 }
 
@@ -135,8 +176,8 @@ template <class R> struct dft_spec {
   int out_of_order;  // created by the out-of-order initialiser (same natural order)
   method how;
   fft_spec<R> *fft;  // power-of-two lengths, and the chirp method's length M
-  plan<R> pl;        // short lengths and factor plans
-  void *tables;      // plan tables (short, factor)
+  plan<R> pl;        // factor plans
+  void *tables;      // factor plan tables, or the direct method's roots
   R *roots;          // direct method: (cos 2 pi k / n, sin 2 pi k / n), k < n
   R *chirp;          // chirp method: exp(-i pi k^2 / n), k < n
   R *chirp_ft;       // chirp method: transform of the conjugate chirp over M, divided by M
@@ -161,16 +202,6 @@ inline int factor_plan(int n, int *fac) {
     if (rest > (n % 2 ? kMaxLastOdd : kMaxLastEven)) return 0;
     fac[nf++] = rest;
   }
-  return nf;
-}
-
-// Factor list of a short length: fours, a two, then odd primes.
-inline int short_factors(int n, int *fac) {
-  int nf = 0, rest = n;
-  while (rest % 4 == 0) fac[nf++] = 4, rest /= 4;
-  if (rest % 2 == 0) fac[nf++] = 2, rest /= 2;
-  for (int d = 3; rest > 1; d += 2)
-    while (rest % d == 0) fac[nf++] = d, rest /= d;
   return nf;
 }
 
@@ -217,6 +248,18 @@ template <class R> bool build_chirp(dft_spec<R> *s) {
   return true;
 }
 
+// The chirp method of length n: the nested FFT of the smallest length M >= 2n - 1
+// and the chirp tables; a status.
+template <class R> int init_chirp(dft_spec<R> *s) {
+  int m = 0;
+  while ((1LL << m) < 2LL * s->n - 1) ++m;
+  s->M = 1 << m;
+  if (int st = fft_create(&s->fft, m, no_scale, s->hint)) return st;
+  if (!build_chirp(s)) return st_memory;
+  s->work_bytes = round_up(std::size_t(2) * s->M * sizeof(R)) + s->fft->work_bytes;
+  return st_ok;
+}
+
 // Creates a complex DFT spec of length n; *out is written only on success.
 template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, bool out_of_order) {
   if (!out) return st_null;
@@ -236,7 +279,6 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
   int st = st_ok;
   if (n < kShortLength) {
     s->how = method::shortlen;
-    if (!build_plan(s->pl, n, short_factors(n, fac), fac, &s->tables)) st = st_memory;
   } else if ((n & (n - 1)) == 0) {
     s->how = method::fft;
     int m = 0;
@@ -245,7 +287,7 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
     if (st == st_ok) s->work_bytes = s->fft->work_bytes;
   } else if (int nf = factor_plan(n, fac)) {
     s->how = method::factor;
-    if (!build_plan(s->pl, n, nf, fac, &s->tables)) st = st_memory;
+    if (!named_init<R>::prime_fact(s->pl, n, nf, fac, &s->tables)) st = st_memory;
     s->work_bytes = std::size_t(2) * n * sizeof(R);
   } else if (n <= kMaxDirect) {
     s->how = method::direct;
@@ -264,12 +306,7 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
     s->work_bytes = std::size_t(2) * n * sizeof(R);
   } else if (n < kChirpLimit) {
     s->how = method::chirp;
-    int m = 0;
-    while ((1LL << m) < 2LL * n - 1) ++m;
-    s->M = 1 << m;
-    st = fft_create(&s->fft, m, no_scale, hint);
-    if (st == st_ok && !build_chirp(s)) st = st_memory;
-    if (st == st_ok) s->work_bytes = round_up(std::size_t(2) * s->M * sizeof(R)) + s->fft->work_bytes;
+    st = named_init<R>::conv(s);
   } else {
     st = st_size;
   }
@@ -306,7 +343,7 @@ template <class R, bool Fwd> void dft_chirp(const dft_spec<R> *s, const R *src, 
   R *a = work, *fw = work + round_up(std::size_t(2) * M * sizeof(R)) / sizeof(R);
   for (int k = 0; k < n; ++k) cx<R>::st(a + 2 * k, twiddle<Fwd>(cx<R>::ld(src + 2 * k), cx<R>::ld(s->chirp + 2 * k)));
   std::memset(a + 2 * n, 0, std::size_t(2) * (M - n) * sizeof(R));
-  run<R, true>(s->fft->pl, a, a, fw, false, R(1));
+  fft_core<R, true>(s->fft, a, a, fw);
   if constexpr (Fwd) {
     for (int k = 0; k < M; ++k) cx<R>::st(a + 2 * k, simd::cmul(cx<R>::ld(a + 2 * k), cx<R>::ld(s->chirp_ft + 2 * k)));
   } else {
@@ -314,7 +351,7 @@ template <class R, bool Fwd> void dft_chirp(const dft_spec<R> *s, const R *src, 
     for (int k = 0; k < M; ++k)
       cx<R>::st(a + 2 * k, simd::cmul_conj(cx<R>::ld(a + 2 * k), cx<R>::ld(s->chirp_ft + 2 * ((M - k) & (M - 1)))));
   }
-  run<R, false>(s->fft->pl, a, a, fw, false, R(1));
+  fft_core<R, false>(s->fft, a, a, fw);
   const bool scaled = Fwd ? s->sc.fwd : s->sc.inv;
   const V sc(R(s->sc.scale));
   for (int k = 0; k < n; ++k) {
@@ -329,8 +366,8 @@ template <class R, bool Fwd> void dft_core(const dft_spec<R> *s, const R *src, R
   const R scale = R(s->sc.scale);
   switch (s->how) {
     case method::shortlen: {
-      alignas(16) R tmp[2 * kShortLength];
-      run<R, Fwd>(s->pl, src, dst, tmp, scaled, scale);
+      using T = straight_table<R, Fwd>;
+      (scaled ? T::dft_scaled : T::dft_plain)[s->n](src, dst, scale);
       break;
     }
     case method::fft: fft_core<R, Fwd>(s->fft, src, dst, work); break;

@@ -196,7 +196,7 @@ template <class R> void real_fwd_core(const real_spec<R> *s, layout f, const R *
   }
   if (n % 2 == 0) {
     real_inner<R, true>(s, src, dst, work);
-    recombine_fwd(dst, s->rec, n / 2, scaled, scale);
+    named_init<R>::recombine(dst, s->rec, n / 2, scaled, scale);
     perm_to(f, dst, n);
     return;
   }

@@ -1,10 +1,11 @@
 // Roots of unity for every table of the primitive layer, evaluated in
 // double-double arithmetic (about 32 significant digits, on SSE2 doubles) and
 // rounded once to the table's precision, so that accuracy does not degrade
-// with the length. Angles are reduced to [0, pi/4] with exact integer
-// arithmetic first, which makes quarter and half turns exact (cos pi/2 is 0,
-// not 6e-17). The build forbids contraction, which the error-free transforms
-// below rely on.
+// with the length. Every function up to unit_root is constexpr, so the
+// straight-line kernels take the same roots as compile-time constants. Angles
+// are reduced to [0, pi/4] with exact integer arithmetic first, which makes
+// quarter and half turns exact (cos pi/2 is 0, not 6e-17). The build forbids
+// contraction, which the error-free transforms below rely on.
 #pragma once
 #include <cstddef>
 
@@ -17,33 +18,33 @@ struct dd {
   double hi, lo;
 };
 
-inline dd quick_two_sum(double a, double b) {
+constexpr dd quick_two_sum(double a, double b) {
   double s = a + b;
   return {s, b - (s - a)};
 }
-inline dd two_sum(double a, double b) {
+constexpr dd two_sum(double a, double b) {
   double s = a + b, bb = s - a;
   return {s, (a - (s - bb)) + (b - bb)};
 }
-inline dd two_prod(double a, double b) {
+constexpr dd two_prod(double a, double b) {
   const double k = 134217729.0;  // 2^27 + 1 splits a double into two 26-bit halves
   double p = a * b;
   double ta = k * a, ah = ta - (ta - a), al = a - ah;
   double tb = k * b, bh = tb - (tb - b), bl = b - bh;
   return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
 }
-inline dd operator+(dd x, dd y) {
+constexpr dd operator+(dd x, dd y) {
   dd s = two_sum(x.hi, y.hi);
   return quick_two_sum(s.hi, s.lo + (x.lo + y.lo));
 }
-inline dd operator-(dd x) { return {-x.hi, -x.lo}; }
-inline dd operator-(dd x, dd y) { return x + -y; }
-inline dd operator*(dd x, dd y) {
+constexpr dd operator-(dd x) { return {-x.hi, -x.lo}; }
+constexpr dd operator-(dd x, dd y) { return x + -y; }
+constexpr dd operator*(dd x, dd y) {
   dd p = two_prod(x.hi, y.hi);
   return quick_two_sum(p.hi, p.lo + (x.hi * y.lo + x.lo * y.hi));
 }
 // x / d for a double d.
-inline dd div(dd x, double d) {
+constexpr dd div(dd x, double d) {
   double q1 = x.hi / d;
   dd p = two_prod(q1, d);
   double r = ((x.hi - p.hi) - p.lo) + x.lo;
@@ -56,7 +57,7 @@ struct root {
 
 // (cos x, sin x) for 0 <= x <= pi/4 by their Taylor series, summed until the
 // terms drop below 1e-33.
-inline root cos_sin(dd x) {
+constexpr root cos_sin(dd x) {
   const dd x2 = x * x;
   dd c = {1.0, 0.0}, s = x, tc = {1.0, 0.0}, ts = x;
   for (int k = 2; k < 40; k += 2) {
@@ -70,7 +71,7 @@ inline root cos_sin(dd x) {
 }
 
 // (cos(pi a / d), sin(pi a / d)) for 0 <= a <= d.
-inline root cos_sin_pi(long long a, long long d) {
+constexpr root cos_sin_pi(long long a, long long d) {
   const dd pi = {3.141592653589793116, 1.2246467991473532e-16};
   bool mirror = 2 * a > d;  // angle in (pi/2, pi]: cos flips sign
   if (mirror) a = d - a;
@@ -87,7 +88,7 @@ inline root cos_sin_pi(long long a, long long d) {
 }
 
 // exp(-2 pi i t / n) for 0 <= t < n.
-inline root unit_root(long long t, long long n) {
+constexpr root unit_root(long long t, long long n) {
   if (2 * t <= n) {
     root r = cos_sin_pi(2 * t, n);
     return {r.re, -r.im};

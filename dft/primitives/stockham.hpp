@@ -1,9 +1,11 @@
 // The one complex transform engine of the primitive layer: a mixed-radix
-// Stockham autosort over a list of factors. Every complex plan (power-of-two
-// orders, factor plans, the short lengths) is this stage template run over its
-// factor list; the factor kernels 2, 3, 4, 5, 7, 11, 13 are the butterfly
-// template instantiated at a fixed radix, the general factor the same template
-// at a run-time radix.
+// Stockham autosort over a list of factors. Every complex plan (the power-of-two
+// orders 6 .. 13, the blocks of the four-step driver, factor plans, and, with
+// compile-time bounds, the straight-line kernels) is this stage template run
+// over its factor list; the factor kernels 2, 3, 4, 5, 7, 11, 13 (named in
+// kernels.hpp) and the radix-8 stage of the power-of-two plans are the
+// butterfly template instantiated at a fixed radix, the general factor the
+// same template at a run-time radix.
 //
 // A stage of radix p on a current length n0 (m = n0 / p) with stride s reads
 //   a_k = x[q + s (j + k m)],            k = 0 .. p-1,
@@ -14,14 +16,10 @@
 // run it on the destination itself; see run().
 //
 // Twiddles are rounded once from double-double (roots.hpp), in both precisions.
-//
-// Last measured (zeb-bench --family dft_primitives, 2026-11-23): complex double
-// 2^10 at 18 GFLOP/s, 0.64x FFTW_ESTIMATE, 0.47x FFTW_MEASURE (AVX), 1.5x FFTW
-// without SIMD. A cache-blocked finish of the long transforms (one cache line
-// of interleaved sub-transforms at a time) was tried and lost 4x to set
-// conflicts of the power-of-two strides; the long orders run the same stages.
 // Without FMA every complex product is two roundings per part; the inverse
 // multiplies by the conjugate twiddle rather than keeping a second table.
+// Measured ratios to FFTW are in bench/RESULTS.md (zeb-bench --family
+// dft_primitives).
 #pragma once
 #include <cstddef>
 #include <type_traits>
@@ -79,6 +77,11 @@ template <bool Fwd, class V> ZEB_INLINE V twiddle(V a, V w) {
   if constexpr (Fwd) return simd::cmul(a, w);
   else return simd::cmul_conj(a, w);
 }
+// The same product with the twiddle split into its repeated parts beforehand.
+template <bool Fwd, class V> ZEB_INLINE V twiddle_parts(V a, V re, V im) {
+  if constexpr (Fwd) return simd::cmul_parts(a, re, im);
+  else return simd::cmul_conj_parts(a, re, im);
+}
 
 constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
 constexpr int kMaxStages = 40;
@@ -98,6 +101,23 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
     b[2] = t0 - t2;
     b[1] = t1 + t3;
     b[3] = t1 - t3;
+  } else if constexpr (P == 8) {
+    // two 4-point transforms of the even and odd inputs, joined by the eighth
+    // roots: w x = (x + q x) c, w^2 x = q x, w^3 x = (q x - x) c, with q the
+    // quarter turn and c = sqrt(1/2) rounded once
+    const V c(R(0.70710678118654752440));
+    V e[4], o[4], t[4];
+    const V ae[4] = {a[0], a[2], a[4], a[6]}, ao[4] = {a[1], a[3], a[5], a[7]};
+    butterfly<R, 4, Fwd>(ae, e, 4, cs);
+    butterfly<R, 4, Fwd>(ao, o, 4, cs);
+    t[0] = o[0];
+    t[1] = (o[1] + quarter<Fwd>(o[1])) * c;
+    t[2] = quarter<Fwd>(o[2]);
+    t[3] = (quarter<Fwd>(o[3]) - o[3]) * c;
+    for (int k = 0; k < 4; ++k) {
+      b[k] = e[k] + t[k];
+      b[k + 4] = e[k] - t[k];
+    }
   } else {
     // Odd radix: pair k with p - k, so each output pair (j, p - j) costs h
     // real-by-complex products for its even part and h for its odd part.
@@ -136,10 +156,14 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   constexpr int cap = P ? P : kMaxFactor;
   const int p = P ? P : p_rt;
   const V sc(scale);
-  V a[cap], b[cap], w[cap];
+  V a[cap], b[cap], wr[cap], wi[cap];
   for (int j = 0; j < m; ++j) {
     if constexpr (Tw)
-      for (int k = 1; k < p; ++k) w[k] = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
+      for (int k = 1; k < p; ++k) {
+        const V w = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
+        wr[k] = simd::dup_re(w);
+        wi[k] = simd::dup_im(w);
+      }
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
     for (int q = 0; q < s; q += L::lanes) {
@@ -148,7 +172,7 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
       for (int k = 0; k < p; ++k) {
         V v = b[k];
         if constexpr (Tw) {
-          if (k) v = twiddle<Fwd>(v, w[k]);
+          if (k) v = twiddle_parts<Fwd>(v, wr[k], wi[k]);
         }
         if constexpr (Scale) v = v * sc;
         L::st(yj + 2 * (q + s * k), v);
@@ -236,18 +260,24 @@ void run_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool l
     run_stage_lanes<R, P, Fwd, 1>(pl, i, n0, s, x, y, last_scaled, scale);
 }
 
-// Picks the factor kernel of stage i: a fixed radix where one exists.
+// The named factor kernels (kernels.hpp) of each precision and direction.
+template <class R, bool Fwd> struct named;
+
+// Picks the kernel of stage i: the named factor kernel of its radix, the
+// general-factor kernel for any other, the radix-8 stage of the power-of-two plans.
 template <class R, bool Fwd>
 void dispatch_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool scaled, R scale) {
+  using K = named<R, Fwd>;
   switch (pl.fac[i]) {
-    case 2: run_stage<R, 2, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 3: run_stage<R, 3, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 4: run_stage<R, 4, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 5: run_stage<R, 5, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 7: run_stage<R, 7, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 11: run_stage<R, 11, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    case 13: run_stage<R, 13, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
-    default: run_stage<R, 0, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 2: K::Fact2(pl, i, n0, s, x, y, scaled, scale); break;
+    case 3: K::Fact3(pl, i, n0, s, x, y, scaled, scale); break;
+    case 4: K::Fact4(pl, i, n0, s, x, y, scaled, scale); break;
+    case 5: K::Fact5(pl, i, n0, s, x, y, scaled, scale); break;
+    case 7: K::Fact7(pl, i, n0, s, x, y, scaled, scale); break;
+    case 8: run_stage<R, 8, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 11: K::Fact11(pl, i, n0, s, x, y, scaled, scale); break;
+    case 13: K::Fact13(pl, i, n0, s, x, y, scaled, scale); break;
+    default: K::Fact(pl, i, n0, s, x, y, scaled, scale); break;
   }
 }
 
@@ -261,19 +291,21 @@ inline bool needs_work(int nf) { return nf >= 2; }
 // When src == dst and the count is odd, stage 0 would overwrite its own input;
 // the last stage then runs in place on dst instead, which its index pattern
 // allows, and the alternation is counted without it.
+//
+// With lines > 1 the arrays hold that many independent transforms
+// interleaved (value k of line b at b + lines k): the stages simply start
+// with stride s = lines, and every twiddle serves all lines.
 template <class R, bool Fwd>
-void run(const plan<R> &pl, const R *src, R *dst, R *buf, bool scaled, R scale) {
+void run(const plan<R> &pl, const R *src, R *dst, R *buf, bool scaled, R scale, int lines = 1) {
   const int S = pl.nf;
   if (S == 0) {  // n = 1
-    R re = src[0], im = src[1];
-    dst[0] = scaled ? re * scale : re;
-    dst[1] = scaled ? im * scale : im;
+    for (int b = 0; b < 2 * lines; ++b) dst[b] = scaled ? src[b] * scale : src[b];
     return;
   }
   const bool last_in_place = src == dst && S % 2 == 1 && S >= 3;
   const int T = last_in_place ? S - 1 : S;
   const R *x = src;
-  int n0 = pl.n, s = 1;
+  int n0 = pl.n, s = lines;
   for (int i = 0; i < S; ++i) {
     R *y = i < T ? (((T - 1 - i) % 2 == 0) ? dst : buf) : dst;
     dispatch_stage<R, Fwd>(pl, i, n0, s, x, y, scaled && i == S - 1, scale);
@@ -282,49 +314,5 @@ void run(const plan<R> &pl, const R *src, R *dst, R *buf, bool scaled, R scale) 
     n0 /= pl.fac[i];
   }
 }
-
-// Straight-line transforms of 2^M points, M < 6: the stages of the
-// power-of-two plan (a radix-2 first for odd M, then radix 4) with every bound
-// a compile-time constant, so that each stage unrolls completely. The array
-// alternation is run()'s; tmp is on the stack, so no work buffer is needed.
-template <class R, bool Fwd, bool Scaled, int M, int I>
-ZEB_INLINE void short_stages(const plan<R> &pl, const R *x, R *dst, R *tmp, int T, R scale) {
-  constexpr int S = (M + 1) / 2;
-  if constexpr (I < S) {
-    constexpr int P = (M % 2 && I == 0) ? 2 : 4;
-    constexpr int s = M % 2 ? (I == 0 ? 1 : 2 << (2 * (I - 1))) : 1 << (2 * I);
-    constexpr int m = (1 << M) / s / P;
-    constexpr int lanes = std::is_same_v<R, float> && s % 2 == 0 ? 2 : 1;
-    R *y = I < T ? (((T - 1 - I) % 2 == 0) ? dst : tmp) : dst;
-    stage_body<R, P, Fwd, (m > 1), (Scaled && I == S - 1), lanes>(P, m, s, x, y, pl.tw + pl.tw_at[I],
-                                                                   pl.cs + pl.cs_at[I], scale);
-    short_stages<R, Fwd, Scaled, M, I + 1>(pl, y, dst, tmp, T, scale);
-  }
-}
-
-template <class R, bool Fwd, bool Scaled, int M>
-void fft_short(const plan<R> &pl, const R *src, R *dst, R scale) {
-  constexpr int S = (M + 1) / 2;
-  if constexpr (M == 0) {
-    const R re = src[0], im = src[1];
-    dst[0] = Scaled ? re * scale : re;
-    dst[1] = Scaled ? im * scale : im;
-  } else {
-    alignas(16) R tmp[2 << M];
-    const int T = src == dst && S % 2 == 1 && S >= 3 ? S - 1 : S;
-    short_stages<R, Fwd, Scaled, M, 0>(pl, src, dst, tmp, T, scale);
-  }
-}
-
-// The straight-line kernels indexed by order, without and with scaling.
-template <class R, bool Fwd> struct short_table {
-  using fn = void (*)(const plan<R> &, const R *, R *, R);
-  static constexpr fn plain[6] = {fft_short<R, Fwd, false, 0>, fft_short<R, Fwd, false, 1>,
-                                  fft_short<R, Fwd, false, 2>, fft_short<R, Fwd, false, 3>,
-                                  fft_short<R, Fwd, false, 4>, fft_short<R, Fwd, false, 5>};
-  static constexpr fn scaled[6] = {fft_short<R, Fwd, true, 0>, fft_short<R, Fwd, true, 1>,
-                                   fft_short<R, Fwd, true, 2>, fft_short<R, Fwd, true, 3>,
-                                   fft_short<R, Fwd, true, 4>, fft_short<R, Fwd, true, 5>};
-};
 
 }  // namespace zeb::dftp

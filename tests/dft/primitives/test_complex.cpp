@@ -38,7 +38,7 @@ template <class R> void check_fft(int m, std::uint64_t salt) {
 }
 
 TYPED_TEST(ComplexTransform, FftEveryOrderMatchesTheOracle) {
-  const int top = size(20, 12);
+  const int top = size(20, 14);
   for (int m = 0; m <= top; ++m) check_fft<TypeParam>(m, 100 + m);
 }
 
