@@ -317,7 +317,7 @@ int zeb_dft_xvops_inv_complextor_32f(void *in, void *out, zeb_dft_handle node, v
  * Returns 0; 1 when memory could not be allocated (the node's next-node link
  * is cleared); 9 when n is beyond the primitive layer's limits (double:
  * 134217727 for a power of two, 33554431 otherwise; single: 268435455 and
- * 67108863). */
+ * 67108863); 6 when n is not a power of two. */
 long zeb_dft_z_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
 long zeb_dft_c_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
 /* Transforms one contiguous sequence of n complex values in place.

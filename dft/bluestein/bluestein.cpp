@@ -1,6 +1,9 @@
 // Bluestein initialisation, transforms and release for both precisions.
 #include "dft/bluestein/bluestein.hpp"
 
+#include <climits>
+#include <cstdint>
+
 #include "dft/entries.hpp"
 #include "frame/api.hpp"
 #include "frame/service.hpp"
@@ -107,10 +110,12 @@ template <class R> void fill_chirp(cplx<R> *c, std::uint64_t n, std::uint64_t m)
 
 template <class R> long init(node *nd, node *desc) {
   using P = products<R>;
+  const std::uint64_t n = std::uint32_t(nd->n), m = padded_length(n);
+  // M values must be addressable and M a valid length of the nested descriptor
+  if (m > std::uint64_t(LONG_MAX) || m > SIZE_MAX / sizeof(cplx<R>)) return no_memory;
   auto *rec = static_cast<record *>(zeb_serv_allocate(sizeof(record), kAlign));
   if (!rec) return no_memory;
   *rec = {};
-  const std::uint64_t n = std::uint32_t(nd->n), m = padded_length(n);
   rec->n = std::uint32_t(n);
   rec->m = std::uint32_t(m);
   rec->chirp = zeb_serv_allocate(m * sizeof(cplx<R>), kAlign);

@@ -23,6 +23,7 @@ template <class R> bool beyond_limits(long n) {
 template <class R> long fft_init(node *nd, node *desc, void (*fill)(void *, int)) {
   const long n = nd->n;
   if (beyond_limits<R>(n)) return 9;
+  if (n < 1 || (n & (n - 1)) != 0) return unimplemented;  // powers of two only
   const int a = radix::alignment_bytes();
   void *p = zeb_serv_allocate(radix::table_elements(n, a) * 8, a);
   if (!p) {

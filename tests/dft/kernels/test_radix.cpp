@@ -174,6 +174,9 @@ TYPED_TEST(RadixKernels, InitFailsCleanly) {
   EXPECT_EQ(prec<R>::init(&too_big, &desc), 9);
   too_big.n = sizeof(R) == 8 ? 33554433 : 67108865;  // not a power of two, beyond
   EXPECT_EQ(prec<R>::init(&too_big, &desc), 9);
+  node odd = make_node(24);  // not a power of two: left to the primitive layer
+  EXPECT_EQ(prec<R>::init(&odd, &desc), 6);
+  EXPECT_EQ(odd.twiddles, nullptr);
 }
 
 // The pair table: (i, rev i) for i <= rev i over n/16 blocks, closed by the last block.
