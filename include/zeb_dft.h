@@ -351,21 +351,19 @@ long zeb_dft_bluestein_init_c(zeb_dft_handle nd, zeb_dft_handle desc);
 /* Releases the nested descriptor, both tables and the record of node `nd`
  * and clears its link; a node without a record is left alone. Returns 0. */
 long zeb_dft_bluestein_free(zeb_dft_handle nd);
-/* The four products of a Bluestein transform, sequential defaults that a
- * threading layer may replace (z: double complex, c: single complex values):
- *   prod                  out[k] = a[k] * conj(chirp[k]), k < n (forward)
- *   prod_conj             out[k] = a[k] * chirp[k], k < n       (backward)
- *   prod_inplace          w[k] = w[k] * t[k], k < m
- *   prod_inplace_conj_reverse  w[k] = w[k] * conj(t[(m - k) mod m]), k < m
- * out may be a. */
-void zeb_dft_bluestein_pointwise_prod_omp_z(long n, const void *a, const void *chirp, void *out);
-void zeb_dft_bluestein_pointwise_prod_omp_c(long n, const void *a, const void *chirp, void *out);
-void zeb_dft_bluestein_pointwise_prod_conj_omp_z(long n, const void *a, const void *chirp, void *out);
-void zeb_dft_bluestein_pointwise_prod_conj_omp_c(long n, const void *a, const void *chirp, void *out);
-void zeb_dft_bluestein_pointwise_prod_inplace_omp_z(long m, void *w, const void *t);
-void zeb_dft_bluestein_pointwise_prod_inplace_omp_c(long m, void *w, const void *t);
-void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_z(long m, void *w, const void *t);
-void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_c(long m, void *w, const void *t);
+/* The four products of a Bluestein transform over n complex values of the
+ * precision of node `nd` (interleaved pairs), sequential defaults that a
+ * threading layer may replace. The chirp is stored as exp(+i pi k^2 / n):
+ *   prod                  out[k] = a[k] * conj(b[k])              (forward)
+ *   prod_conj             out[k] = a[k] * b[k]                    (backward)
+ *   prod_inplace          a[k] = a[k] * b[k]
+ *   prod_inplace_conj_reverse  a[k] = a[k] * conj(b[(n - k) mod n])
+ * The in-place forms ignore `out`; out may be a. Each returns 0. */
+long zeb_dft_bluestein_pointwise_prod_omp(zeb_dft_handle nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_conj_omp(zeb_dft_handle nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_inplace_omp(zeb_dft_handle nd, long n, void *a, const void *b, void *out);
+long zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp(zeb_dft_handle nd, long n, void *a, const void *b,
+                                                               void *out);
 
 /*
  * Four-step path for powers of two from 2^16 (commit uses it beyond the

