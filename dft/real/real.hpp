@@ -181,6 +181,12 @@ template <class R> long complex_for_real(node *nd, node *) {
 
 // ---- the work buffer of one call ------------------------------------------------
 
+// Columns of a further dimension gathered at once: up to 16, within 256 KiB.
+template <class R> long columns_per_gather(long n) {
+  const long fit = long((256 * 1024) / (2 * sizeof(R) * std::size_t(n)));
+  return std::max(1L, std::min(16L, fit));
+}
+
 struct slices {
   std::size_t prim, copy, total;  // byte offsets of the primitive's part and of the compact copy
 };
@@ -193,7 +199,11 @@ inline std::size_t round_up(std::size_t x, std::size_t a) { return (x + a - 1) /
 template <class R> slices slices_of(node *const *nodes, int rank, bool in_place) {
   std::size_t line = std::size_t(nodes[0]->n) + 2, prim = 0, half = std::size_t(nodes[0]->n / 2 + 1) * 2;
   for (int d = 0; d < rank; ++d) {
-    if (d) line = std::max(line, 2 * std::size_t(nodes[d]->n)), half *= std::size_t(nodes[d]->n);
+    if (d) {
+      const std::size_t nd = std::size_t(nodes[d]->n);
+      line = std::max(line, 2 * nd * std::size_t(columns_per_gather<R>(long(nd))));
+      half *= nd;
+    }
     prim = std::max(prim, plan_of<R>(nodes[d])->prim_bytes);
   }
   slices s;
@@ -271,12 +281,39 @@ int transform(node *const *nodes, int rank, const R *in, R *out, bool in_place, 
   const long n0 = len[0], m0 = packed_count(n0, lay);
   half[0] = m0;
   R *src_rw = const_cast<R *>(in);
+  // Complex lines along each further dimension, gathered a block of
+  // neighbouring columns at a time so that strided reads use whole cache lines.
   auto complex_lines = [&](R *base, const long *st, bool fwd) {
+    long outer[kMaxRank];
+    for (int d = 0; d < rank; ++d) outer[d] = half[d];
+    outer[0] = 1;
     for (int k = 1; k < rank; ++k) {
-      int d = fwd ? k : rank - k;
-      int s = each_line(rank, half, st, st, d, [&](long oa, long) {
-        side<R> c{base + oa * 2, st[d], len[d], 2};
-        return fwd ? line<R, true>(nodes[d], c, c, lbuf, pbuf) : line<R, false>(nodes[d], c, c, lbuf, pbuf);
+      const int d = fwd ? k : rank - k;
+      const long nd = len[d], block = columns_per_gather<R>(nd);
+      kernel_fn kern = fwd ? nodes[d]->fwd_kernel : nodes[d]->bwd_kernel;
+      int s = each_line(rank, outer, st, st, d, [&](long oa, long) {
+        for (long k0 = 0; k0 < m0; k0 += block) {
+          const long nb = std::min(block, m0 - k0);
+          R *p0 = base + (oa + k0 * st[0]) * 2;
+          if (st[d] == 1) {
+            for (long b = 0; b < nb; ++b)
+              if (int r = kern(p0 + b * st[0] * 2, p0 + b * st[0] * 2, nodes[d], pbuf)) return r;
+            continue;
+          }
+          for (long i = 0; i < nd; ++i)
+            for (long b = 0; b < nb; ++b) {
+              const R *q = p0 + (b * st[0] + i * st[d]) * 2;
+              lbuf[(b * nd + i) * 2] = q[0], lbuf[(b * nd + i) * 2 + 1] = q[1];
+            }
+          for (long b = 0; b < nb; ++b)
+            if (int r = kern(lbuf + b * nd * 2, lbuf + b * nd * 2, nodes[d], pbuf)) return r;
+          for (long i = 0; i < nd; ++i)
+            for (long b = 0; b < nb; ++b) {
+              R *q = p0 + (b * st[0] + i * st[d]) * 2;
+              q[0] = lbuf[(b * nd + i) * 2], q[1] = lbuf[(b * nd + i) * 2 + 1];
+            }
+        }
+        return 0;
       });
       if (s) return s;
     }

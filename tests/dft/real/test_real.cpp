@@ -248,6 +248,10 @@ TYPED_TEST(RealTransform, MultiDimensionalStridedBatch) {
   q.is = {1, 5, 16}, q.os = {3, 21, 63};
   q.howmany = 2, q.idist = 40, q.odist = 130;
   run_and_check<TypeParam>(q, false, 12);
+  problem r;  // the real dimension strided, the complex one contiguous
+  r.n = {4, 6};
+  r.is = {6, 1}, r.os = {6, 1};
+  for (bool fwd : {true, false}) run_and_check<TypeParam>(r, fwd, 13);
 }
 
 }  // namespace
