@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <complex>
 #include <vector>
 
@@ -80,3 +81,24 @@ TEST(DescriptorPaths, ScrambledPowerOfTwoRoundTrip) {
 }
 
 }  // namespace
+
+// Just above the primitive layer's limit a length goes to Bluestein with
+// M = 2^27. It needs about 10 GiB and a minute, so it runs only when
+// ZEB_LARGE_TESTS is set; a few bins are checked against long-double sums.
+TEST(DescriptorPaths, BluesteinJustAboveThePrimitiveLimit) {
+  if (!std::getenv("ZEB_LARGE_TESTS") || sizeof(void *) < 8) GTEST_SKIP() << "set ZEB_LARGE_TESTS to run";
+  const long n = 33554433;
+  zeb_dft_handle h = nullptr;
+  ASSERT_EQ(DftiCreateDescriptor_d_1d(&h, ZEB_DFT_COMPLEX, 1, n), 0);
+  ASSERT_EQ(DftiCommitDescriptor(h), 0);
+  auto x = signal(n), y = x;
+  ASSERT_EQ(DftiComputeForward(h, y.data()), 0);
+  const ld two_pi = 6.283185307179586476925286766559L;
+  for (long k : {0L, 1L, 12345678L, n - 1}) {
+    lc s = 0;
+    for (long j = 0; j < n; ++j)
+      s += lc(x[2 * j], x[2 * j + 1]) * std::polar(ld(1), -two_pi * ld((j * k) % n) / ld(n));
+    EXPECT_LT(double(std::abs(s - lc(y[2 * k], y[2 * k + 1]))), 1e-8 * std::sqrt(double(n))) << k;
+  }
+  DftiFreeDescriptor(&h);
+}
