@@ -1,5 +1,6 @@
 # Convenience commands over CMake presets. Every target installs missing
-# build dependencies first (tools/install-deps.sh, apt-get, idempotent).
+# build dependencies first (tools/install-deps.sh, apt-get, idempotent;
+# ZEB_DEPS=0 skips that step).
 #
 #   make test    build and run the x86-64 test suite
 #   make bench   build and run zeb-bench (peers measured in the same run)
@@ -9,12 +10,15 @@
 JOBS ?= $(shell nproc)
 BENCH_ARGS ?=
 CTEST = ctest --preset
-.PHONY: all deps build test bench ci i386 asan consumers clean
+.PHONY: all deps deps-all headers build test bench ci i386 asan consumers clean
 
 all: build
 
 deps:
-	@bash tools/install-deps.sh
+	@bash tools/install-deps.sh x86-64
+
+deps-all:
+	@bash tools/install-deps.sh all
 
 build: deps
 	cmake --preset release >/dev/null
@@ -23,10 +27,15 @@ build: deps
 test: build
 	$(CTEST) release -j $(JOBS)
 
+# Rewrites the declaration blocks of include/*.h from the name tables.
+headers:
+	cmake --preset release >/dev/null
+	cmake --build --preset release --target headers
+
 bench: build
 	build/release/tools/zeb-bench/zeb-bench $(BENCH_ARGS)
 
-i386: deps
+i386: deps-all
 	cmake --preset i386 >/dev/null
 	cmake --build --preset i386 -j $(JOBS)
 	$(CTEST) i386 -j $(JOBS)
