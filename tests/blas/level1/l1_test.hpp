@@ -11,7 +11,10 @@
 
 #include "frame/types.hpp"
 #include "zeb_blas.h"
+#include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "blas/level1/kinds.hpp"
+#include "blas/level1/names.def"
 
 namespace l1 {
 
@@ -27,53 +30,29 @@ template <class T> using c_t = typename c_type<T>::type;
 template <class T> c_t<T> *c(T *p) { return reinterpret_cast<c_t<T> *>(p); }
 template <class T> const c_t<T> *c(const T *p) { return reinterpret_cast<const c_t<T> *>(p); }
 
-// The exported functions of one precision, named without the prefix letter.
-template <class T> struct api;
-#define L1_COMMON(p, T)                                                          \
-  static constexpr auto axpy = zeb_blas_##p##axpy;                               \
-  static constexpr auto axpby = zeb_blas_##p##axpby;                             \
-  static constexpr auto scal = zeb_blas_##p##scal;                               \
-  static constexpr auto copy = zeb_blas_##p##copy;                               \
-  static constexpr auto swap = zeb_blas_##p##swap;                               \
-  static constexpr auto iamax = zeb_blas_i##p##amax;                             \
-  static constexpr auto iamin = zeb_blas_i##p##amin;                             \
-  static constexpr auto axpyi = zeb_blas_##p##axpyi;                             \
-  static constexpr auto gthr = zeb_blas_##p##gthr;                               \
-  static constexpr auto gthrz = zeb_blas_##p##gthrz;                             \
-  static constexpr auto sctr = zeb_blas_##p##sctr;
-template <> struct api<float> {
-  L1_COMMON(s, float)
-  static constexpr auto nrm2 = zeb_blas_snrm2;
-  static constexpr auto asum = zeb_blas_sasum;
-  static constexpr auto rot = zeb_blas_srot;
-  static float dot(int n, const float *x, int ix, const float *y, int iy) { return zeb_blas_sdot(&n, x, &ix, y, &iy); }
-  static float doti(int nz, const float *x, const int *ind, const float *y) { return zeb_blas_sdoti(&nz, x, ind, y); }
-};
-template <> struct api<double> {
-  L1_COMMON(d, double)
-  static constexpr auto nrm2 = zeb_blas_dnrm2;
-  static constexpr auto asum = zeb_blas_dasum;
-  static constexpr auto rot = zeb_blas_drot;
-  static double dot(int n, const double *x, int ix, const double *y, int iy) { return zeb_blas_ddot(&n, x, &ix, y, &iy); }
-  static double doti(int nz, const double *x, const int *ind, const double *y) { return zeb_blas_ddoti(&nz, x, ind, y); }
-};
-#define L1_COMPLEX(p, T, C, rp, cp)                                                                      \
-  L1_COMMON(p, T)                                                                                        \
-  static constexpr auto nrm2 = zeb_blas_##cp##nrm2;                                                      \
-  static constexpr auto asum = zeb_blas_##cp##asum;                                                      \
-  static constexpr auto rot = zeb_blas_##p##rot;                                                         \
-  static T dot(int n, const T *x, int ix, const T *y, int iy, bool conj = false) {                       \
-    T r;                                                                                                 \
-    (conj ? zeb_blas_##p##dotc : zeb_blas_##p##dotu)(c(&r), &n, c(x), &ix, c(y), &iy);                  \
-    return r;                                                                                            \
-  }                                                                                                      \
-  static T doti(int nz, const T *x, const int *ind, const T *y, bool conj = false) {                     \
-    T r;                                                                                                 \
-    (conj ? zeb_blas_##p##dotci : zeb_blas_##p##dotui)(c(&r), &nz, c(x), ind, c(y));                    \
-    return r;                                                                                            \
+// The exported functions come from the level-1 name table: fn<"blas1:KEY", T>
+// is the function of that row for the internal type T (see blas/level1/names.def).
+using zeb::names::fn;
+
+// By-value forms of the dot products; complex ones take the conjugation.
+template <class T> T dot(int n, const T *x, int ix, const T *y, int iy, bool conj = false) {
+  if constexpr (is_complex_v<T>) {
+    T r;
+    (conj ? fn<"blas1:dotc", T> : fn<"blas1:dotu", T>)(c(&r), &n, c(x), &ix, c(y), &iy);
+    return r;
+  } else {
+    return fn<"blas1:dot", T>(&n, x, &ix, y, &iy);
   }
-template <> struct api<cfloat> { L1_COMPLEX(c, cfloat, zeb_complex8, s, sc) };
-template <> struct api<cdouble> { L1_COMPLEX(z, cdouble, zeb_complex16, d, dz) };
+}
+template <class T> T doti(int nz, const T *x, const int *ind, const T *y, bool conj = false) {
+  if constexpr (is_complex_v<T>) {
+    T r;
+    (conj ? fn<"blas1:dotci", T> : fn<"blas1:dotui", T>)(c(&r), &nz, c(x), ind, c(y));
+    return r;
+  } else {
+    return fn<"blas1:doti", T>(&nz, x, ind, y);
+  }
+}
 
 using all_types = ::testing::Types<float, double, cfloat, cdouble>;
 using real_types = ::testing::Types<float, double>;

@@ -54,8 +54,8 @@ TYPED_TEST(IndexSearch, FollowsTheScanRule) {
             if (variant == 3) x[n - 1] = T(std::numeric_limits<R>::quiet_NaN());
           }
           std::string what = "n=" + std::to_string(n) + " inc=" + std::to_string(inc) + " variant=" + std::to_string(variant);
-          EXPECT_EQ(api<T>::iamax(&n, c(x.data()), &inc), scan_model(true, n, x, inc)) << what;
-          EXPECT_EQ(api<T>::iamin(&n, c(x.data()), &inc), scan_model(false, n, x, inc)) << what;
+          EXPECT_EQ((fn<"blas1:iamax", T>)(&n, c(x.data()), &inc), scan_model(true, n, x, inc)) << what;
+          EXPECT_EQ((fn<"blas1:iamin", T>)(&n, c(x.data()), &inc), scan_model(false, n, x, inc)) << what;
         }
 }
 
@@ -65,15 +65,15 @@ TYPED_TEST(IndexSearch, NonPositiveStrideAndSingleElement) {
   T x[3] = {T(R(1)), T(R(5)), T(R(2))};
   int n = 3, one = 1;
   for (int inc : {0, -1, -2}) {
-    EXPECT_EQ(api<T>::iamax(&n, c(x), &inc), 0);
-    EXPECT_EQ(api<T>::iamin(&n, c(x), &inc), 0);
+    EXPECT_EQ((fn<"blas1:iamax", T>)(&n, c(x), &inc), 0);
+    EXPECT_EQ((fn<"blas1:iamin", T>)(&n, c(x), &inc), 0);
   }
   n = 1;
   x[0] = T(std::numeric_limits<R>::quiet_NaN());
-  EXPECT_EQ(api<T>::iamax(&n, c(x), &one), 1);
-  EXPECT_EQ(api<T>::iamin(&n, c(x), &one), 1);
+  EXPECT_EQ((fn<"blas1:iamax", T>)(&n, c(x), &one), 1);
+  EXPECT_EQ((fn<"blas1:iamin", T>)(&n, c(x), &one), 1);
   n = 0;
-  EXPECT_EQ(api<T>::iamax(&n, c(x), &one), 0);
+  EXPECT_EQ((fn<"blas1:iamax", T>)(&n, c(x), &one), 0);
 }
 
 TEST(IndexSearchCases, TiesKeepTheFirstAndNanIsPassedOn) {

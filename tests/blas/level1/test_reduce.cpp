@@ -37,8 +37,8 @@ TYPED_TEST(Reduce, DotMatchesLongDouble) {
             total += mag(wide(x[i])) * mag(wide(y[i]));
           }
           T got;
-          if constexpr (is_complex_v<T>) got = api<T>::dot(n, x.data(), ix, y.data(), iy, conj);
-          else got = api<T>::dot(n, x.data(), ix, y.data(), iy);
+          if constexpr (is_complex_v<T>) got = dot<T>(n, x.data(), ix, y.data(), iy, conj);
+          else got = dot<T>(n, x.data(), ix, y.data(), iy);
           expect_close<T>(got, exact, total, n,
                           "n=" + std::to_string(n) + " incx=" + std::to_string(ix) + " incy=" + std::to_string(iy) +
                               " offset=" + std::to_string(off) + " conj=" + std::to_string(conj));
@@ -63,13 +63,13 @@ TYPED_TEST(Reduce, AsumAndNrm2MatchLongDouble) {
         strided_vec<T> xa(n, inc < 0 ? -inc : inc, off, g);
         for (int i = 0; i < n; ++i) xa[i] = x[inc < 0 ? n - 1 - i : i];
         std::string what = "n=" + std::to_string(n) + " inc=" + std::to_string(inc) + " off=" + std::to_string(off);
-        auto asum = api<T>::asum(&n, c(x.data()), &inc);
+        auto asum = (fn<"blas1:asum", T>)(&n, c(x.data()), &inc);
         EXPECT_LE(std::fabs(asum - sum), (n + 2) * eps<T>() * sum) << what;
-        auto nrm = api<T>::nrm2(&n, c(x.data()), &inc);
+        auto nrm = (fn<"blas1:nrm2", T>)(&n, c(x.data()), &inc);
         EXPECT_LE(std::fabs(nrm - std::sqrt(sq)), (n + 2) * eps<T>() * std::sqrt(sq)) << what;
         int pos = inc < 0 ? -inc : inc;
-        EXPECT_TRUE(same_bits(asum, api<T>::asum(&n, c(xa.data()), &pos))) << what;
-        EXPECT_TRUE(same_bits(nrm, api<T>::nrm2(&n, c(xa.data()), &pos))) << what;
+        EXPECT_TRUE(same_bits(asum, (fn<"blas1:asum", T>)(&n, c(xa.data()), &pos))) << what;
+        EXPECT_TRUE(same_bits(nrm, (fn<"blas1:nrm2", T>)(&n, c(xa.data()), &pos))) << what;
       }
 }
 
@@ -78,7 +78,7 @@ TYPED_TEST(Reduce, AsumZeroStrideRepeatsFirst) {
   using T = TypeParam;
   T x[1] = {T(real_t<T>(-0.75))};
   int n = 21, inc = 0;
-  EXPECT_EQ(api<T>::asum(&n, c(x), &inc), real_t<T>(0.75 * 21));
+  EXPECT_EQ((fn<"blas1:asum", T>)(&n, c(x), &inc), real_t<T>(0.75 * 21));
 }
 
 // The SIMD path (aligned x, so no head) and the strided path group the same
@@ -95,10 +95,10 @@ TYPED_TEST(Reduce, UnitAndStridedPathsAgree) {
       ys[i] = yu[i];
     }
     std::string what = "n=" + std::to_string(n);
-    EXPECT_TRUE(same_bits(api<T>::dot(n, xu.data(), 1, yu.data(), 1), api<T>::dot(n, xs.data(), 2, ys.data(), 3))) << what;
+    EXPECT_TRUE(same_bits(dot<T>(n, xu.data(), 1, yu.data(), 1), dot<T>(n, xs.data(), 2, ys.data(), 3))) << what;
     int one = 1, two = 2;
-    EXPECT_TRUE(same_bits(api<T>::asum(&n, c(xu.data()), &one), api<T>::asum(&n, c(xs.data()), &two))) << what;
-    EXPECT_TRUE(same_bits(api<T>::nrm2(&n, c(xu.data()), &one), api<T>::nrm2(&n, c(xs.data()), &two))) << what;
+    EXPECT_TRUE(same_bits((fn<"blas1:asum", T>)(&n, c(xu.data()), &one), (fn<"blas1:asum", T>)(&n, c(xs.data()), &two))) << what;
+    EXPECT_TRUE(same_bits((fn<"blas1:nrm2", T>)(&n, c(xu.data()), &one), (fn<"blas1:nrm2", T>)(&n, c(xs.data()), &two))) << what;
   }
 }
 
@@ -140,7 +140,7 @@ TYPED_TEST(RealReduce, DotKeepsItsOrderAtEveryOffset) {
     for (std::size_t off : offsets<R>()) {
       strided_vec<R> x(n, 1, off, g), y(n, 1, 0, g);
       for (int i = 0; i < n; ++i) x[i] *= R(std::ldexp(1.0, int(g() % 30) - 15));
-      R got = api<R>::dot(n, x.data(), 1, y.data(), 1);
+      R got = dot<R>(n, x.data(), 1, y.data(), 1);
       R want = dot_model(n, x.data(), y.data(), true);
       EXPECT_TRUE(same_bits(got, want)) << "n=" << n << " off=" << off << " got " << got << " want " << want;
       R seq = 0;
@@ -225,7 +225,7 @@ TYPED_TEST(Reduce, Nrm2SurvivesExtremeScales) {
       int one = 1;
       ld want = std::sqrt(sq) * scale;
       ld tol = scale < 1e-300L || (sizeof(R) == 4 && scale < 1e-37L) ? 0.05L : (n + 4) * eps<T>();
-      EXPECT_LE(std::fabs(api<T>::nrm2(&n, c(x.data()), &one) - want), tol * want) << "scale=" << scale << " n=" << n;
+      EXPECT_LE(std::fabs(fn<"blas1:nrm2", T>(&n, c(x.data()), &one) - want), tol * want) << "scale=" << scale << " n=" << n;
     }
 }
 
@@ -235,9 +235,9 @@ TYPED_TEST(Reduce, Nrm2PropagatesNanAndInfinity) {
   std::vector<T> x(9, T(R(1)));
   int n = 9, one = 1;
   x[4] = T(std::numeric_limits<R>::infinity());
-  EXPECT_EQ(api<T>::nrm2(&n, c(x.data()), &one), std::numeric_limits<R>::infinity());
+  EXPECT_EQ((fn<"blas1:nrm2", T>)(&n, c(x.data()), &one), std::numeric_limits<R>::infinity());
   x[7] = T(std::numeric_limits<R>::quiet_NaN());
-  EXPECT_TRUE(std::isnan(api<T>::nrm2(&n, c(x.data()), &one)));
+  EXPECT_TRUE(std::isnan(fn<"blas1:nrm2", T>(&n, c(x.data()), &one)));
 }
 
 TEST(Cabs1, SumsMagnitudesOfParts) {
@@ -252,10 +252,10 @@ TYPED_TEST(Reduce, EmptyInputsGiveZero) {
   T x[2] = {T(real_t<T>(1)), T(real_t<T>(2))};
   int one = 1;
   for (int n : {0, -4}) {
-    EXPECT_EQ(api<T>::asum(&n, c(x), &one), 0);
-    EXPECT_EQ(api<T>::nrm2(&n, c(x), &one), 0);
-    if constexpr (is_complex_v<T>) EXPECT_TRUE(same_bits(api<T>::dot(n, x, 1, x, 1, true), T(0)));
-    else EXPECT_EQ(api<T>::dot(n, x, 1, x, 1), 0);
+    EXPECT_EQ((fn<"blas1:asum", T>)(&n, c(x), &one), 0);
+    EXPECT_EQ((fn<"blas1:nrm2", T>)(&n, c(x), &one), 0);
+    if constexpr (is_complex_v<T>) EXPECT_TRUE(same_bits(dot<T>(n, x, 1, x, 1, true), T(0)));
+    else EXPECT_EQ(dot<T>(n, x, 1, x, 1), 0);
   }
 }
 

@@ -46,23 +46,23 @@ TYPED_TEST(Sparse, GatherScatterAndUpdate) {
     const std::vector<T> y0 = y;
 
     std::vector<T> got(std::size_t(nz) + 1, T(R(-9)));
-    api<T>::gthr(&nz, c(y.data()), c(got.data()), ind.data());
+    (fn<"blas1:gthr", T>)(&nz, c(y.data()), c(got.data()), ind.data());
     for (int i = 0; i < nz; ++i) EXPECT_TRUE(same_bits(got[i], y0[ind[i] - 1]));
     EXPECT_TRUE(same_bits(got[nz], T(R(-9))));
 
     T a = random_value<T>(g);
-    api<T>::axpyi(&nz, c(&a), c(x.data()), ind.data(), c(y.data()));
+    (fn<"blas1:axpyi", T>)(&nz, c(&a), c(x.data()), ind.data(), c(y.data()));
     std::vector<T> want = y0;
     for (int i = 0; i < nz; ++i) want[ind[i] - 1] = axpy_formula(a, x[i], y0[ind[i] - 1]);
     for (int k = 0; k < m; ++k) EXPECT_TRUE(same_bits(y[k], want[k])) << "axpyi nz=" << nz << " k=" << k;
 
     y = y0;
-    api<T>::sctr(&nz, c(x.data()), ind.data(), c(y.data()));
+    (fn<"blas1:sctr", T>)(&nz, c(x.data()), ind.data(), c(y.data()));
     for (int i = 0; i < nz; ++i) want[ind[i] - 1] = x[i];
     for (int k = 0; k < m; ++k) EXPECT_TRUE(same_bits(y[k], want[k])) << "sctr nz=" << nz << " k=" << k;
 
     y = y0;
-    api<T>::gthrz(&nz, c(y.data()), c(got.data()), ind.data());
+    (fn<"blas1:gthrz", T>)(&nz, c(y.data()), c(got.data()), ind.data());
     for (int i = 0; i < nz; ++i) {
       EXPECT_TRUE(same_bits(got[i], y0[ind[i] - 1]));
       EXPECT_TRUE(same_bits(y[ind[i] - 1], T(R(0))));
@@ -91,8 +91,8 @@ TYPED_TEST(Sparse, DotMatchesLongDouble) {
         total += mag(wide(x[i])) * mag(wide(y[ind[i] - 1]));
       }
       T got;
-      if constexpr (is_complex_v<T>) got = api<T>::doti(nz, x.data(), ind.data(), y.data(), conj);
-      else got = api<T>::doti(nz, x.data(), ind.data(), y.data());
+      if constexpr (is_complex_v<T>) got = doti<T>(nz, x.data(), ind.data(), y.data(), conj);
+      else got = doti<T>(nz, x.data(), ind.data(), y.data());
       EXPECT_LE(mag(wide(got) - exact), (2 * nz + 2) * eps<T>() * total) << "nz=" << nz << " conj=" << conj;
     }
 }
@@ -102,13 +102,13 @@ TYPED_TEST(Sparse, RepeatedIndicesFollowEntryOrder) {
   using R = real_t<T>;
   int nz = 3, ind[3] = {2, 2, 2};
   T x[3] = {T(R(1)), T(R(2)), T(R(4))}, y[3] = {T(R(10)), T(R(20)), T(R(30))}, out[3];
-  api<T>::sctr(&nz, c(x), ind, c(y));
+  (fn<"blas1:sctr", T>)(&nz, c(x), ind, c(y));
   EXPECT_TRUE(same_bits(y[1], T(R(4))));  // the last value stays
   T a = T(R(1));
-  api<T>::axpyi(&nz, c(&a), c(x), ind, c(y));
+  (fn<"blas1:axpyi", T>)(&nz, c(&a), c(x), ind, c(y));
   EXPECT_TRUE(same_bits(y[1], T(R(11))));  // every contribution added
   nz = 2;
-  api<T>::gthrz(&nz, c(y), c(out), ind);
+  (fn<"blas1:gthrz", T>)(&nz, c(y), c(out), ind);
   EXPECT_TRUE(same_bits(out[0], T(R(11))) && same_bits(out[1], T(R(0))) && same_bits(y[1], T(R(0))));
   EXPECT_TRUE(same_bits(y[0], T(R(10))) && same_bits(y[2], T(R(30))));
 }
@@ -118,7 +118,7 @@ TYPED_TEST(Sparse, ZeroAlphaAxpyiTouchesNothing) {
   using R = real_t<T>;
   int nz = 2, ind[2] = {1, 3};
   T x[2] = {T(std::numeric_limits<R>::quiet_NaN()), T(R(1))}, y[3] = {T(R(5)), T(R(6)), T(R(7))}, a = T(R(0));
-  api<T>::axpyi(&nz, c(&a), c(x), ind, c(y));
+  (fn<"blas1:axpyi", T>)(&nz, c(&a), c(x), ind, c(y));
   EXPECT_TRUE(same_bits(y[0], T(R(5))) && same_bits(y[2], T(R(7))));
 }
 

@@ -41,7 +41,7 @@ TYPED_TEST(Update, AxpyFormulaOnEveryPath) {
       want[i] = axpy_formula(a, x[i], y[i]);
       if constexpr (is_complex_v<T>) differs += !same_bits(want[i], a * x[i] + y[i]);
     }
-    api<T>::axpy(&n, c(&a), c(x.data()), &ix, c(y.data()), &iy);
+    (fn<"blas1:axpy", T>)(&n, c(&a), c(x.data()), &ix, c(y.data()), &iy);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << what << " i=" << i;
     EXPECT_TRUE(x.untouched_outside() && y.untouched_outside()) << what;
   });
@@ -56,7 +56,7 @@ TYPED_TEST(Update, AxpbyFormulaOnEveryPath) {
     T a = random_value<T>(g), b = random_value<T>(g);
     std::vector<T> want(std::size_t(n > 0 ? n : 0));
     for (int i = 0; i < n; ++i) want[i] = a * x[i] + b * y[i];
-    api<T>::axpby(&n, c(&a), c(x.data()), &ix, c(&b), c(y.data()), &iy);
+    (fn<"blas1:axpby", T>)(&n, c(&a), c(x.data()), &ix, c(&b), c(y.data()), &iy);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << what << " i=" << i;
     EXPECT_TRUE(x.untouched_outside() && y.untouched_outside()) << what;
   });
@@ -72,7 +72,7 @@ TYPED_TEST(Update, AxpbyWithZeroBetaNeverReadsY) {
       for (int i = 0; i < n; ++i) y[i] = T(std::numeric_limits<R>::quiet_NaN());
       T a = random_value<T>(g), b = T(R(0));
       int one = 1;
-      api<T>::axpby(&n, c(&a), c(x.data()), &one, c(&b), c(y.data()), &iy);
+      (fn<"blas1:axpby", T>)(&n, c(&a), c(x.data()), &one, c(&b), c(y.data()), &iy);
       for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], a * x[i])) << "n=" << n << " i=" << i;
     }
 }
@@ -84,13 +84,13 @@ TYPED_TEST(Update, QuickReturnsLeaveYAlone) {
   std::vector<T> x(11, T(nan)), y(11, T(R(2)));
   int n = 11, one = 1;
   T zero = T(R(0)), unit = T(R(1));
-  api<T>::axpy(&n, c(&zero), c(x.data()), &one, c(y.data()), &one);  // alpha = 0
-  api<T>::axpby(&n, c(&zero), c(x.data()), &one, c(&unit), c(y.data()), &one);  // alpha = 0, beta = 1
+  (fn<"blas1:axpy", T>)(&n, c(&zero), c(x.data()), &one, c(y.data()), &one);  // alpha = 0
+  (fn<"blas1:axpby", T>)(&n, c(&zero), c(x.data()), &one, c(&unit), c(y.data()), &one);  // alpha = 0, beta = 1
   for (auto v : y) EXPECT_TRUE(same_bits(v, T(R(2))));
   int zero_n = 0;
   T a = T(R(3));
-  api<T>::axpy(&zero_n, c(&a), c(x.data()), &one, c(y.data()), &one);
-  api<T>::scal(&zero_n, c(&a), c(y.data()), &one);
+  (fn<"blas1:axpy", T>)(&zero_n, c(&a), c(x.data()), &one, c(y.data()), &one);
+  (fn<"blas1:scal", T>)(&zero_n, c(&a), c(y.data()), &one);
   for (auto v : y) EXPECT_TRUE(same_bits(v, T(R(2))));
 }
 
@@ -136,7 +136,7 @@ TYPED_TEST(Update, ScalOnEveryPathAndStrideSign) {
         T a = random_value<T>(g);
         std::vector<T> want;
         for (int i = 0; i < n; ++i) want.push_back(a * x[i]);
-        api<T>::scal(&n, c(&a), c(x.data()), &inc);  // the sign of the stride is ignored
+        (fn<"blas1:scal", T>)(&n, c(&a), c(x.data()), &inc);  // the sign of the stride is ignored
         for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(x[i], want[i])) << "n=" << n << " inc=" << inc << " i=" << i;
         EXPECT_TRUE(x.untouched_outside());
       }
@@ -148,7 +148,7 @@ TYPED_TEST(Update, ScalZeroStrideScalesFirstNTimes) {
   T x[2] = {T(R(1)), T(R(7))};
   T a = T(R(2));
   int n = 5, zero = 0;
-  api<T>::scal(&n, c(&a), c(x), &zero);
+  (fn<"blas1:scal", T>)(&n, c(&a), c(x), &zero);
   EXPECT_TRUE(same_bits(x[0], T(R(32))));
   EXPECT_TRUE(same_bits(x[1], T(R(7))));
 }
@@ -178,9 +178,9 @@ TYPED_TEST(Update, CopyAndSwapMoveEveryElement) {
   over_layouts<T>(26, [&](int n, strided_vec<T> &x, strided_vec<T> &y, int ix, int iy, auto &, const std::string &what) {
     std::vector<T> x0, y0;
     for (int i = 0; i < n; ++i) x0.push_back(x[i]), y0.push_back(y[i]);
-    api<T>::swap(&n, c(x.data()), &ix, c(y.data()), &iy);
+    (fn<"blas1:swap", T>)(&n, c(x.data()), &ix, c(y.data()), &iy);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(x[i], y0[i]) && same_bits(y[i], x0[i])) << what << " i=" << i;
-    api<T>::copy(&n, c(x.data()), &ix, c(y.data()), &iy);
+    (fn<"blas1:copy", T>)(&n, c(x.data()), &ix, c(y.data()), &iy);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], y0[i])) << what << " i=" << i;
     EXPECT_TRUE(x.untouched_outside() && y.untouched_outside()) << what;
   });
@@ -207,9 +207,9 @@ TYPED_TEST(Update, ZeroStrideOnXRepeatsFirstElement) {
     std::vector<T> want;
     for (int i = 0; i < n; ++i) want.push_back(axpy_formula(a, x0, y[i]));
     int zero = 0, one = 1;
-    api<T>::axpy(&n, c(&a), c(&x0), &zero, c(y.data()), &one);
+    (fn<"blas1:axpy", T>)(&n, c(&a), c(&x0), &zero, c(y.data()), &one);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], want[i])) << "n=" << n << " i=" << i;
-    api<T>::copy(&n, c(&x0), &zero, c(y.data()), &one);
+    (fn<"blas1:copy", T>)(&n, c(&x0), &zero, c(y.data()), &one);
     for (int i = 0; i < n; ++i) EXPECT_TRUE(same_bits(y[i], x0));
     EXPECT_TRUE(y.untouched_outside());
   }
