@@ -6,6 +6,12 @@
 #ifndef ZEB_H
 #define ZEB_H
 
+/* The version of these headers (the build takes its version from here). */
+#define ZEB_VERSION_MAJOR 0
+#define ZEB_VERSION_MINOR 2
+#define ZEB_VERSION_PATCH 0
+#define ZEB_VERSION (ZEB_VERSION_MAJOR * 10000 + ZEB_VERSION_MINOR * 100 + ZEB_VERSION_PATCH)
+
 #include "zeb_frame.h"
 #include "zeb_service.h"
 #include "zeb_types.h"

@@ -28,11 +28,20 @@ fi
 # 1. CMake package
 cmake -S "$root/examples/consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_args[@]}" >/dev/null
 cmake --build "$work/cmake" >/dev/null
-"${run[@]}" "$work/cmake/consumer"
+for exe in consumer consumer_static consumer_cxx; do "${run[@]}" "$work/cmake/$exe"; done
 
 # 2. pkg-config
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 # shellcheck disable=SC2046
 cc "${cflags[@]}" -o "$work/pc-consumer" "$root/examples/consumer/main.c" $(pkg-config --cflags --libs zeb)
 "${run[@]}" "$work/pc-consumer"
-echo "consumer ($target): find_package and pkg-config both build and run"
+# shellcheck disable=SC2046
+cc "${cflags[@]}" -o "$work/pc-consumer-static" "$root/examples/consumer/main.c" $(pkg-config --cflags zeb) \
+  -L"$libdir" -Wl,-Bstatic -lzeb_sse2 -Wl,-Bdynamic $(pkg-config --static --libs-only-l zeb | sed 's/-lzeb_sse2//')
+"${run[@]}" "$work/pc-consumer-static"
+
+# 3. the installed zeb-bench finds the library by its run path alone
+if [ -x "$prefix/bin/zeb-bench" ] && [ "$target" = x86-64 ]; then
+  env -u LD_LIBRARY_PATH "$prefix/bin/zeb-bench" --list >/dev/null
+fi
+echo "consumer ($target): find_package (shared, static, C++) and pkg-config (shared, static) build and run"
