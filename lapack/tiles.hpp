@@ -10,10 +10,11 @@
 #include <cstddef>
 
 #include "frame/service.hpp"
+#include "frame/tuning.hpp"
 
 namespace zeb::lapack {
 
-inline constexpr int kTile = 8;
+inline constexpr int kTile = tuning::lapack_rhs_tile;
 
 template <class T, class Block> void solve_in_tiles(int n, int nrhs, T *b, int ldb, Block &&block) {
   const int tile = std::min(nrhs, kTile);

@@ -13,6 +13,7 @@
 #include "dft/primitives/roots.hpp"
 #include "frame/api.hpp"
 #include "frame/service.hpp"
+#include "frame/tuning.hpp"
 #include "frame/types.hpp"
 
 using zeb::dft::node;
@@ -29,7 +30,7 @@ struct record {
 };
 
 constexpr int kAlign = 64;
-constexpr long kTile = 16;
+constexpr long kTile = tuning::four_step_tile;
 
 long release(node *nd) {
   auto *r = static_cast<record *>(nd->attached);

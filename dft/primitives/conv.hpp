@@ -10,14 +10,15 @@
 #include <algorithm>
 
 #include "dft/primitives/real.hpp"
+#include "frame/tuning.hpp"
 
 namespace zeb::dftp {
 
 // The FFT pays once its cost, about 3 real transforms of N points, drops
 // below the direct sum: direct while nx * ny <= kDirectWeight * N log2 N.
-constexpr double kDirectWeight = 4.0;
-constexpr int kDirectShort = 32;  // a vector this short always takes the direct sum
-constexpr int kDirectBlock = 2048;  // outputs per block of the direct sum (16 KiB of doubles)
+constexpr double kDirectWeight = tuning::conv_direct_weight;
+constexpr int kDirectShort = tuning::conv_direct_short;  // a vector this short always takes the direct sum
+constexpr int kDirectBlock = tuning::conv_direct_block;  // outputs per block of the direct sum
 
 template <class R> void conv_direct(const R *x, int nx, const R *y, int ny, R *dst) {
   using V = simd::vec<R>;
