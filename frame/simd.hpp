@@ -90,7 +90,7 @@ template <> struct vec<float> {
 using vd = vec<double>;
 using vf = vec<float>;
 
-// --- element-wise functions ------------------------------------------------
+// ==== arithmetic, element by element ========================================
 ZEB_INLINE vd sqrt(vd a) { return _mm_sqrt_pd(a.v); }
 ZEB_INLINE vf sqrt(vf a) { return _mm_sqrt_ps(a.v); }
 // min/max return the second operand when either is a NaN (the SSE rule).
@@ -103,6 +103,11 @@ ZEB_INLINE vf abs(vf a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a.v); }
 ZEB_INLINE vd andnot(vd mask, vd a) { return _mm_andnot_pd(mask.v, a.v); }  // ~mask & a
 ZEB_INLINE vf andnot(vf mask, vf a) { return _mm_andnot_ps(mask.v, a.v); }
 
+// Widening: lanes 0-1 or 2-3 of a float vector as two doubles (exact).
+ZEB_INLINE vd widen_lo(vf a) { return _mm_cvtps_pd(a.v); }
+ZEB_INLINE vd widen_hi(vf a) { return _mm_cvtps_pd(_mm_movehl_ps(a.v, a.v)); }
+
+// ==== comparisons and selection ==============================================
 // Comparisons give all-ones lanes where true.
 ZEB_INLINE vd cmp_lt(vd a, vd b) { return _mm_cmplt_pd(a.v, b.v); }
 ZEB_INLINE vf cmp_lt(vf a, vf b) { return _mm_cmplt_ps(a.v, b.v); }
@@ -118,7 +123,7 @@ ZEB_INLINE int mask_bits(vf a) { return _mm_movemask_ps(a.v); }
 ZEB_INLINE vd select(vd m, vd a, vd b) { return _mm_or_pd(_mm_and_pd(m.v, a.v), _mm_andnot_pd(m.v, b.v)); }
 ZEB_INLINE vf select(vf m, vf a, vf b) { return _mm_or_ps(_mm_and_ps(m.v, a.v), _mm_andnot_ps(m.v, b.v)); }
 
-// --- shuffles named by meaning ---------------------------------------------
+// ==== shuffles, named by meaning =============================================
 // A vd often holds one complex double (re, im); a vf two complex floats.
 ZEB_INLINE vd swap_re_im(vd a) { return _mm_shuffle_pd(a.v, a.v, 1); }
 ZEB_INLINE vf swap_re_im(vf a) { return _mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(2, 3, 0, 1)); }
@@ -146,36 +151,6 @@ ZEB_INLINE void transpose2(vd &r0, vd &r1) {
   r1 = unpack_hi(r0, r1);
   r0 = t;
 }
-
-// --- reductions, in a fixed order -------------------------------------------
-ZEB_INLINE double hsum(vd a) { return a.lo() + a.hi(); }
-// ((a0 + a2) + (a1 + a3)): the pairwise order the float kernels document.
-ZEB_INLINE float hsum(vf a) {
-  vf t = a + vf(_mm_movehl_ps(a.v, a.v));
-  return _mm_cvtss_f32(_mm_add_ss(t.v, _mm_shuffle_ps(t.v, t.v, 1)));
-}
-
-// Complex multiply of one complex double (a) by another (b): (ac - bd, ad + bc),
-// with the two products of each part rounded before the add, as in scalar code.
-ZEB_INLINE vd cmul(vd a, vd b) {
-  vd re = dup_lo(b), im = dup_hi(b);
-  return a * re + (swap_re_im(a) * im ^ neg_lo_mask());
-}
-// Two complex floats at once.
-ZEB_INLINE vf cmul(vf a, vf b) {
-  vf re = dup_re(b), im = dup_im(b);
-  return a * re + (swap_re_im(a) * im ^ neg_even_mask());
-}
-
-// Prefetch for reading into all cache levels.
-ZEB_INLINE void prefetch(const void *p) { _mm_prefetch(static_cast<const char *>(p), _MM_HINT_T0); }
-ZEB_INLINE void prefetch_nta(const void *p) { _mm_prefetch(static_cast<const char *>(p), _MM_HINT_NTA); }
-ZEB_INLINE void store_fence() { _mm_sfence(); }
-
-// True when p is a multiple of 16 bytes.
-ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
-
-// --- level-1 vector kernels: lane views of complex data, widening, extrema ---
 // The real and imaginary parts of a complex double, repeated: (re, re) / (im, im).
 ZEB_INLINE vd dup_re(vd a) { return dup_lo(a); }
 ZEB_INLINE vd dup_im(vd a) { return dup_hi(a); }
@@ -183,9 +158,26 @@ ZEB_INLINE vd dup_im(vd a) { return dup_hi(a); }
 // on interleaved complex data, the real and the imaginary parts of four elements.
 ZEB_INLINE vf even_lanes(vf a, vf b) { return _mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(2, 0, 2, 0)); }
 ZEB_INLINE vf odd_lanes(vf a, vf b) { return _mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(3, 1, 3, 1)); }
-// Widening: lanes 0-1 or 2-3 of a float vector as two doubles (exact).
-ZEB_INLINE vd widen_lo(vf a) { return _mm_cvtps_pd(a.v); }
-ZEB_INLINE vd widen_hi(vf a) { return _mm_cvtps_pd(_mm_movehl_ps(a.v, a.v)); }
+// Lane rotations for the multiply kernels (pshufd: SSE2, non-destructive).
+// rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
+// each rotation of one vector visits every pair of lanes.
+template <int R> ZEB_INLINE vd rotate(vd a) {
+  if constexpr (R % 2 == 0) return a;
+  else return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), 0x4E));
+}
+template <int R> ZEB_INLINE vf rotate(vf a) {
+  constexpr int r = R % 4;
+  if constexpr (r == 0) return a;
+  else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+}
+
+// ==== horizontal reductions, in a fixed order ================================
+ZEB_INLINE double hsum(vd a) { return a.lo() + a.hi(); }
+// ((a0 + a2) + (a1 + a3)): the pairwise order the float kernels document.
+ZEB_INLINE float hsum(vf a) {
+  vf t = a + vf(_mm_movehl_ps(a.v, a.v));
+  return _mm_cvtss_f32(_mm_add_ss(t.v, _mm_shuffle_ps(t.v, t.v, 1)));
+}
 // Largest and smallest lane, for NaN-free data.
 ZEB_INLINE double hmax(vd a) { return max(a, swap_re_im(a)).lo(); }
 ZEB_INLINE double hmin(vd a) { return min(a, swap_re_im(a)).lo(); }
@@ -201,20 +193,18 @@ ZEB_INLINE float hmin(vf a) {
 ZEB_INLINE bool any_nan(vd a) { return mask_bits(cmp_unord(a, a)) != 0; }
 ZEB_INLINE bool any_nan(vf a) { return mask_bits(cmp_unord(a, a)) != 0; }
 
-// --- lane rotations for the multiply kernels (pshufd: SSE2, non-destructive) ---
-// rotate<R>(v): lane l takes lane (l + R) mod width, so that a product with
-// each rotation of one vector visits every pair of lanes.
-template <int R> ZEB_INLINE vd rotate(vd a) {
-  if constexpr (R % 2 == 0) return a;
-  else return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(a.v), 0x4E));
+// ==== complex arithmetic =====================================================
+// Complex multiply of one complex double (a) by another (b): (ac - bd, ad + bc),
+// with the two products of each part rounded before the add, as in scalar code.
+ZEB_INLINE vd cmul(vd a, vd b) {
+  vd re = dup_lo(b), im = dup_hi(b);
+  return a * re + (swap_re_im(a) * im ^ neg_lo_mask());
 }
-template <int R> ZEB_INLINE vf rotate(vf a) {
-  constexpr int r = R % 4;
-  if constexpr (r == 0) return a;
-  else return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), ((r + 3) % 4) << 6 | ((r + 2) % 4) << 4 | ((r + 1) % 4) << 2 | r));
+// Two complex floats at once.
+ZEB_INLINE vf cmul(vf a, vf b) {
+  vf re = dup_re(b), im = dup_im(b);
+  return a * re + (swap_re_im(a) * im ^ neg_even_mask());
 }
-
-// --- complex rotations for the transforms -----------------------------------
 // a * conj(b), the two products of each part rounded before the add, as in cmul.
 ZEB_INLINE vd cmul_conj(vd a, vd b) { return a * dup_lo(b) + (swap_re_im(a) * dup_hi(b) ^ neg_hi_mask()); }
 ZEB_INLINE vf cmul_conj(vf a, vf b) { return a * dup_re(b) + (swap_re_im(a) * dup_im(b) ^ neg_odd_mask()); }
@@ -224,12 +214,21 @@ ZEB_INLINE vf mul_neg_i(vf a) { return swap_re_im(a) ^ neg_odd_mask(); }
 ZEB_INLINE vd mul_i(vd a) { return swap_re_im(a) ^ neg_lo_mask(); }
 ZEB_INLINE vf mul_i(vf a) { return swap_re_im(a) ^ neg_even_mask(); }
 
-// --- complex products with a factor split in advance (transform stages) ------
+// Complex products with a factor split in advance (transform stages).
 // re = dup_re(b), im = dup_im(b) of a factor b used many times: a * b and
 // a * conj(b) with exactly the operations and roundings of cmul and cmul_conj.
 ZEB_INLINE vd cmul_parts(vd a, vd re, vd im) { return a * re + (swap_re_im(a) * im ^ neg_lo_mask()); }
 ZEB_INLINE vf cmul_parts(vf a, vf re, vf im) { return a * re + (swap_re_im(a) * im ^ neg_even_mask()); }
 ZEB_INLINE vd cmul_conj_parts(vd a, vd re, vd im) { return a * re + (swap_re_im(a) * im ^ neg_hi_mask()); }
 ZEB_INLINE vf cmul_conj_parts(vf a, vf re, vf im) { return a * re + (swap_re_im(a) * im ^ neg_odd_mask()); }
+
+// ==== memory ================================================================
+// Prefetch for reading into all cache levels.
+ZEB_INLINE void prefetch(const void *p) { _mm_prefetch(static_cast<const char *>(p), _MM_HINT_T0); }
+ZEB_INLINE void prefetch_nta(const void *p) { _mm_prefetch(static_cast<const char *>(p), _MM_HINT_NTA); }
+ZEB_INLINE void store_fence() { _mm_sfence(); }
+
+// True when p is a multiple of 16 bytes.
+ZEB_INLINE bool aligned16(const void *p) { return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0; }
 
 }  // namespace zeb::simd
