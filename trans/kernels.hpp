@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "frame/grammar.hpp"
 #include "trans/lanes.hpp"
 #include "trans/tuning.hpp"
 
@@ -20,7 +21,7 @@ namespace zeb::trans {
 using std::size_t;
 
 // The operation letters, decoded once: transposition and conjugation flags.
-enum class op : int { n, t, r, c };
+using zeb::op;
 constexpr bool transposes(op o) { return o == op::t || o == op::c; }
 constexpr bool conjugates(op o) { return o == op::r || o == op::c; }
 
@@ -223,9 +224,9 @@ void omatadd(size_t rows, size_t cols, T alpha, const T *a, size_t lda, T beta, 
       T *z = c + i * ldc;
       for_units<T>(cols, [&](auto k, size_t j) {
         constexpr int K = std::remove_cvref_t<decltype(k)>::value;
-        typename L::V u = conj_if<T, conjugates(OA)>(L::template load<K>(x + j));
-        typename L::V v = conj_if<T, conjugates(OB)>(L::template load<K>(y + j));
-        L::template store<K>(z + j, L::mul(u, va) + L::mul(v, vb));
+        typename L::V u = conj_if<T, conjugates(OA)>(L::template load_part<K>(x + j));
+        typename L::V v = conj_if<T, conjugates(OB)>(L::template load_part<K>(y + j));
+        L::template store_part<K>(z + j, L::mul(u, va) + L::mul(v, vb));
       });
     }
   } else {

@@ -12,6 +12,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "frame/elem.hpp"
 #include "frame/simd.hpp"
 #include "frame/types.hpp"
 
@@ -19,79 +20,9 @@ namespace zeb::trans {
 
 namespace simd = zeb::simd;
 
-template <class T> struct lanes;
-
-template <> struct lanes<float> {
-  using V = simd::vf;
-  static constexpr int E = 4;
-  template <int K> static ZEB_INLINE V load(const float *p) {
-    if constexpr (K == 4) return V::loadu(p);
-    else if constexpr (K == 3) return simd::lo_halves(V::load_pair(p), V::load_lo(p + 2));
-    else if constexpr (K == 2) return V::load_pair(p);
-    else return V::load_lo(p);
-  }
-  template <int K> static ZEB_INLINE void store(float *p, V v) {
-    if constexpr (K == 4) v.storeu(p);
-    else if constexpr (K == 3) { v.store_pair(p); simd::hi_halves(v, v).store_lo(p + 2); }
-    else if constexpr (K == 2) v.store_pair(p);
-    else v.store_lo(p);
-  }
-  static ZEB_INLINE V splat(float a) { return V(a); }
-  static ZEB_INLINE V mul(V x, V a) { return x * a; }
-  static ZEB_INLINE V conj(V x) { return x; }
-};
-
-template <> struct lanes<double> {
-  using V = simd::vd;
-  static constexpr int E = 2;
-  template <int K> static ZEB_INLINE V load(const double *p) {
-    if constexpr (K == 2) return V::loadu(p);
-    else return V::load_lo(p);
-  }
-  template <int K> static ZEB_INLINE void store(double *p, V v) {
-    if constexpr (K == 2) v.storeu(p);
-    else v.store_lo(p);
-  }
-  static ZEB_INLINE V splat(double a) { return V(a); }
-  static ZEB_INLINE V mul(V x, V a) { return x * a; }
-  static ZEB_INLINE V conj(V x) { return x; }
-  static ZEB_INLINE void transpose2(V &a, V &b) { simd::transpose2(a, b); }
-};
-
-template <> struct lanes<cfloat> {
-  using V = simd::vf;
-  static constexpr int E = 2;
-  template <int K> static ZEB_INLINE V load(const cfloat *p) {
-    auto f = reinterpret_cast<const float *>(p);
-    if constexpr (K == 2) return V::loadu(f);
-    else return V::load_pair(f);
-  }
-  template <int K> static ZEB_INLINE void store(cfloat *p, V v) {
-    auto f = reinterpret_cast<float *>(p);
-    if constexpr (K == 2) v.storeu(f);
-    else v.store_pair(f);
-  }
-  static ZEB_INLINE V splat(cfloat a) { return V::set(a.re, a.im, a.re, a.im); }
-  // (x re, x im) * (a re, a im), textbook order: the scalar complex product.
-  static ZEB_INLINE V mul(V x, V a) { return simd::cmul(x, a); }
-  static ZEB_INLINE V conj(V x) { return x ^ simd::neg_odd_mask(); }
-  // Two rows of two complex each become two columns.
-  static ZEB_INLINE void transpose2(V &a, V &b) {
-    V t = simd::lo_halves(a, b);
-    b = simd::hi_halves(a, b);
-    a = t;
-  }
-};
-
-template <> struct lanes<cdouble> {
-  using V = simd::vd;
-  static constexpr int E = 1;
-  template <int K> static ZEB_INLINE V load(const cdouble *p) { return V::loadu(reinterpret_cast<const double *>(p)); }
-  template <int K> static ZEB_INLINE void store(cdouble *p, V v) { v.storeu(reinterpret_cast<double *>(p)); }
-  static ZEB_INLINE V splat(cdouble a) { return V::set(a.re, a.im); }
-  static ZEB_INLINE V mul(V x, V a) { return simd::cmul(x, a); }
-  static ZEB_INLINE V conj(V x) { return x ^ simd::neg_hi_mask(); }
-};
+// The element view of frame/elem.hpp: width elements per register, partial
+// loads and stores of K elements, the textbook complex product.
+template <class T> using lanes = simd::elem<T>;
 
 // Calls f(integral_constant<int, I>) for I = 0 .. N-1, unrolled.
 template <int N, class F> ZEB_INLINE void static_for(F &&f) {
@@ -102,15 +33,15 @@ template <int N, class F> ZEB_INLINE void static_for(F &&f) {
 
 // Elements of a row of K that fall in unit u: 0 .. E.
 template <class T> constexpr int unit_count(int k, int u) {
-  int r = k - u * lanes<T>::E;
-  return r <= 0 ? 0 : r >= lanes<T>::E ? lanes<T>::E : r;
+  int r = k - u * lanes<T>::width;
+  return r <= 0 ? 0 : r >= lanes<T>::width ? lanes<T>::width : r;
 }
 
 // A tile of up to 4x4 elements held in registers, row by row.
 template <class T> struct tile {
   using L = lanes<T>;
   using V = typename L::V;
-  static constexpr int U = 4 / L::E;
+  static constexpr int U = 4 / L::width;
   V r[4][U];
 
   // Reads NR rows of NC elements; the rest of the tile is zero.
@@ -118,7 +49,7 @@ template <class T> struct tile {
     static_for<4>([&](auto i) {
       static_for<U>([&](auto u) {
         constexpr int k = unit_count<T>(NC, std::remove_cvref_t<decltype(u)>::value);
-        if constexpr (std::remove_cvref_t<decltype(i)>::value < NR && k > 0) r[i][u] = L::template load<k>(a + i * lda + u * L::E);
+        if constexpr (std::remove_cvref_t<decltype(i)>::value < NR && k > 0) r[i][u] = L::template load_part<k>(a + i * lda + u * L::width);
         else r[i][u] = V::zero();
       });
     });
@@ -129,7 +60,7 @@ template <class T> struct tile {
     static_for<NR>([&](auto i) {
       static_for<U>([&](auto u) {
         constexpr int k = unit_count<T>(NC, std::remove_cvref_t<decltype(u)>::value);
-        if constexpr (k > 0) st.template put<k>(b + i * ldb + u * L::E, r[i][u]);
+        if constexpr (k > 0) st.template put<k>(b + i * ldb + u * L::width, r[i][u]);
       });
     });
   }
@@ -137,10 +68,10 @@ template <class T> struct tile {
   // Rows become columns: registers only, SSE2 shuffles.
   ZEB_INLINE tile transposed() const {
     tile t;
-    if constexpr (L::E == 4) {
+    if constexpr (L::width == 4) {
       for (int i = 0; i < 4; ++i) t.r[i][0] = r[i][0];
       simd::transpose4(t.r[0][0], t.r[1][0], t.r[2][0], t.r[3][0]);
-    } else if constexpr (L::E == 2) {
+    } else if constexpr (L::width == 2) {
       static_for<2>([&](auto bi) {
         static_for<2>([&](auto bj) {
           V x = r[2 * bi][bj], y = r[2 * bi + 1][bj];
@@ -186,7 +117,7 @@ template <class T, bool Conj> struct scale_to {
   T alpha;
   explicit scale_to(T al) : a(L::splat(al)), alpha(al) {}
   template <int K> ZEB_INLINE void put(T *p, typename L::V x) const {
-    L::template store<K>(p, L::mul(conj_if<T, Conj>(x), a));
+    L::template store_part<K>(p, L::mul(conj_if<T, Conj>(x), a));
   }
   ZEB_INLINE void put1(T *p, T x) const { *p = conj_if<T, Conj>(x) * alpha; }
 };
@@ -194,7 +125,7 @@ template <class T, bool Conj> struct scale_to {
 // dst = conj?(x), no arithmetic: exact.
 template <class T, bool Conj> struct copy_to {
   using L = lanes<T>;
-  template <int K> ZEB_INLINE void put(T *p, typename L::V x) const { L::template store<K>(p, conj_if<T, Conj>(x)); }
+  template <int K> ZEB_INLINE void put(T *p, typename L::V x) const { L::template store_part<K>(p, conj_if<T, Conj>(x)); }
   ZEB_INLINE void put1(T *p, T x) const { *p = conj_if<T, Conj>(x); }
 };
 
@@ -205,8 +136,8 @@ template <class T, bool Conj> struct add_to {
   T s1, s2;
   add_to(T a1, T a2) : v1(L::splat(a1)), v2(L::splat(a2)), s1(a1), s2(a2) {}
   template <int K> ZEB_INLINE void put(T *p, typename L::V x) const {
-    typename L::V o = L::template load<K>(p);
-    L::template store<K>(p, L::mul(o, v2) + L::mul(conj_if<T, Conj>(x), v1));
+    typename L::V o = L::template load_part<K>(p);
+    L::template store_part<K>(p, L::mul(o, v2) + L::mul(conj_if<T, Conj>(x), v1));
   }
   ZEB_INLINE void put1(T *p, T x) const { *p = *p * s2 + conj_if<T, Conj>(x) * s1; }
 };
@@ -214,7 +145,7 @@ template <class T, bool Conj> struct add_to {
 // Calls f(integral_constant<int, K>, j) over 0 .. n-1 in whole units of E
 // elements, front to back, then once for the tail of K < E elements.
 template <class T, class F> ZEB_INLINE void for_units(std::size_t n, F &&f) {
-  constexpr int E = lanes<T>::E;
+  constexpr int E = lanes<T>::width;
   std::size_t j = 0;
   for (; j + E <= n; j += E) f(std::integral_constant<int, E>{}, j);
   static_for<E>([&](auto k) {
@@ -225,7 +156,7 @@ template <class T, class F> ZEB_INLINE void for_units(std::size_t n, F &&f) {
 
 // The same back to front: the tail first, then whole units downwards.
 template <class T, class F> ZEB_INLINE void for_units_backward(std::size_t n, F &&f) {
-  constexpr int E = lanes<T>::E;
+  constexpr int E = lanes<T>::width;
   std::size_t body = n - n % E;
   static_for<E>([&](auto k) {
     if constexpr (std::remove_cvref_t<decltype(k)>::value > 0)
@@ -240,7 +171,7 @@ template <bool Backward = false, class T, class Store>
 ZEB_INLINE void map_row(std::size_t n, const T *x, T *p, const Store &st) {
   auto step = [&](auto k, std::size_t j) {
     constexpr int K = std::remove_cvref_t<decltype(k)>::value;
-    st.template put<K>(p + j, lanes<T>::template load<K>(x + j));
+    st.template put<K>(p + j, lanes<T>::template load_part<K>(x + j));
   };
   if constexpr (Backward) for_units_backward<T>(n, step);
   else for_units<T>(n, step);

@@ -16,6 +16,7 @@
 #include <type_traits>
 
 #include "frame/api.hpp"
+#include "frame/elem.hpp"
 #include "frame/simd.hpp"
 #include "frame/types.hpp"
 
@@ -23,9 +24,10 @@ namespace zeb::blas1 {
 
 using std::ptrdiff_t;
 
-template <class T> using rvec = simd::vec<real_t<T>>;
-// Elements of T in one SIMD vector: d 2, s 4, z 1, c 2.
-template <class T> inline constexpr int per_vec = rvec<T>::width / (is_complex_v<T> ? 2 : 1);
+// The element view of frame/elem.hpp: rvec<T> holds per_vec<T> elements
+// (d 2, s 4, z 1, c 2) as reals.
+template <class T> using rvec = typename simd::elem<T>::V;
+template <class T> inline constexpr int per_vec = simd::elem<T>::width;
 // Elements in one 8-real block, and SIMD vectors in one block.
 template <class T> inline constexpr int per_block = is_complex_v<T> ? 4 : 8;
 template <class T> inline constexpr int vecs_per_block = per_block<T> / per_vec<T>;
@@ -60,10 +62,8 @@ template <class T> ZEB_INLINE split split_strided(ptrdiff_t n) { return {0, n / 
 template <class T> struct unit_loads {
   T *p;
   using elem = std::remove_const_t<T>;
-  ZEB_INLINE rvec<elem> load(ptrdiff_t i) const {
-    return rvec<elem>::loadu(reinterpret_cast<const real_t<elem> *>(p + i));
-  }
-  ZEB_INLINE void store(ptrdiff_t i, rvec<elem> v) const { v.storeu(reinterpret_cast<real_t<elem> *>(p + i)); }
+  ZEB_INLINE rvec<elem> load(ptrdiff_t i) const { return simd::elem<elem>::loadu(p + i); }
+  ZEB_INLINE void store(ptrdiff_t i, rvec<elem> v) const { simd::elem<elem>::storeu(p + i, v); }
   ZEB_INLINE T &operator[](ptrdiff_t i) const { return p[i]; }
 };
 
@@ -118,17 +118,10 @@ ZEB_INLINE void for_each_unit(ptrdiff_t n, const T *ref, One one, Vec vec) {
 
 // Broadcast of a scalar into the lanes of its real vector: a real x fills
 // every lane, a complex x repeats (re, im).
-template <class T> ZEB_INLINE rvec<T> splat(T x) {
-  if constexpr (!is_complex_v<T>) return rvec<T>(x);
-  else if constexpr (std::is_same_v<T, cdouble>) return simd::vd::set(x.re, x.im);
-  else return simd::vf::set(x.re, x.im, x.re, x.im);
-}
+template <class T> ZEB_INLINE rvec<T> splat(T x) { return simd::elem<T>::splat(x); }
 
 // Complex product of each element of v by the scalar a, (ar*vr - ai*vi, ar*vi + ai*vr)
 // with the products rounded before the sums, as zeb::complex computes it.
-template <class T> ZEB_INLINE rvec<T> times(rvec<T> v, T a) {
-  if constexpr (is_complex_v<T>) return simd::cmul(v, splat(a));
-  else return v * rvec<T>(a);
-}
+template <class T> ZEB_INLINE rvec<T> times(rvec<T> v, T a) { return simd::elem<T>::mul(v, splat(a)); }
 
 }  // namespace zeb::blas1

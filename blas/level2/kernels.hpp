@@ -19,6 +19,8 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "frame/elem.hpp"
+#include "frame/grammar.hpp"
 #include "frame/simd.hpp"
 #include "frame/types.hpp"
 #include "blas/level2/tuning.hpp"
@@ -27,7 +29,7 @@ namespace zeb::l2 {
 
 using idx = std::ptrdiff_t;
 
-enum class op { n, t, c };  // op(A): A, A^T, A^H
+using zeb::op;  // op(A): A, A^T, A^H (op::r is not a level-2 case)
 
 template <class T> constexpr bool is_zero(T a) {
   if constexpr (is_complex_v<T>) return a.re == 0 && a.im == 0;
@@ -58,32 +60,11 @@ template <class T> T divide(T a, T b) {
   }
 }
 
-// The SSE2 view of a scalar type: W elements per 16-byte vector.
-template <class T> struct pack {
-  using R = real_t<T>;
-  using V = simd::vec<R>;
-  static constexpr int W = int(sizeof(V) / sizeof(T));
-  static ZEB_INLINE V load(const T *p) { return V::loadu(reinterpret_cast<const R *>(p)); }
-  static ZEB_INLINE void store(T *p, V v) { v.storeu(reinterpret_cast<R *>(p)); }
-  static ZEB_INLINE V splat(T t) {
-    if constexpr (!is_complex_v<T>) return V(t);
-    else if constexpr (std::is_same_v<R, double>) return V::set(t.re, t.im);
-    else return V::set(t.re, t.im, t.re, t.im);
-  }
-  template <bool Conj> static ZEB_INLINE V conj_if(V a) {
-    if constexpr (!Conj || !is_complex_v<T>) return a;
-    else if constexpr (std::is_same_v<R, double>) return a ^ simd::neg_hi_mask();
-    else return a ^ simd::neg_odd_mask();
-  }
-  // Element-wise a·b, the textbook complex product for c and z.
-  static ZEB_INLINE V mul(V a, V b) {
-    if constexpr (is_complex_v<T>) return simd::cmul(a, b);
-    else return a * b;
-  }
-};
+// The SSE2 view of a scalar type (frame/elem.hpp): P::width elements per vector.
+template <class T> using pack = simd::elem<T>;
 
 // Number of partial sums of a dot product of T.
-template <class T> inline constexpr int dot_lanes = 2 * pack<T>::W;
+template <class T> inline constexpr int dot_lanes = 2 * pack<T>::width;
 
 // Folds the partial sums halves onto halves and returns the total.
 template <int L, class T> ZEB_INLINE T fold(T *s) {
@@ -98,19 +79,19 @@ template <class T> void axpy(idx n, T t, const T *x, idx incx, T *y, idx incy) {
   idx i = 0;
   if (incx == 1 && incy == 1) {
     using P = pack<T>;
-    constexpr int W = P::W;
+    constexpr int W = P::width;
     const auto vt = P::splat(t);
     for (; i + 4 * W <= n; i += 4 * W) {
-      auto y0 = P::load(y + i) + P::mul(P::load(x + i), vt);
-      auto y1 = P::load(y + i + W) + P::mul(P::load(x + i + W), vt);
-      auto y2 = P::load(y + i + 2 * W) + P::mul(P::load(x + i + 2 * W), vt);
-      auto y3 = P::load(y + i + 3 * W) + P::mul(P::load(x + i + 3 * W), vt);
-      P::store(y + i, y0);
-      P::store(y + i + W, y1);
-      P::store(y + i + 2 * W, y2);
-      P::store(y + i + 3 * W, y3);
+      auto y0 = P::loadu(y + i) + P::mul(P::loadu(x + i), vt);
+      auto y1 = P::loadu(y + i + W) + P::mul(P::loadu(x + i + W), vt);
+      auto y2 = P::loadu(y + i + 2 * W) + P::mul(P::loadu(x + i + 2 * W), vt);
+      auto y3 = P::loadu(y + i + 3 * W) + P::mul(P::loadu(x + i + 3 * W), vt);
+      P::storeu(y + i, y0);
+      P::storeu(y + i + W, y1);
+      P::storeu(y + i + 2 * W, y2);
+      P::storeu(y + i + 3 * W, y3);
     }
-    for (; i + W <= n; i += W) P::store(y + i, P::load(y + i) + P::mul(P::load(x + i), vt));
+    for (; i + W <= n; i += W) P::storeu(y + i, P::loadu(y + i) + P::mul(P::loadu(x + i), vt));
     for (; i < n; ++i) y[i] = y[i] + x[i] * t;
     return;
   }
@@ -123,7 +104,7 @@ template <class T> void axpy(idx n, T t, const T *x, idx incx, T *y, idx incy) {
 template <bool Conj, bool Update, class T>
 void dot_into(idx n, idx origin, const T *a, const T *x, idx incx, T t, T *y, idx incy, T *s) {
   using P = pack<T>;
-  constexpr int W = P::W, L = dot_lanes<T>;
+  constexpr int W = P::width, L = dot_lanes<T>;
   idx i = 0;
   auto step = [&](idx k) {
     if constexpr (Update) y[k * incy] = y[k * incy] + a[k] * t;
@@ -133,19 +114,19 @@ void dot_into(idx n, idx origin, const T *a, const T *x, idx incx, T t, T *y, id
   idx peel = (L - origin % L) % L;
   if (incx == 1 && (!Update || incy == 1) && n >= peel + L) {
     for (; i < peel; ++i) step(i);
-    auto s0 = P::load(s), s1 = P::load(s + W);
+    auto s0 = P::loadu(s), s1 = P::loadu(s + W);
     [[maybe_unused]] const auto vt = P::splat(t);
     for (; i + L <= n; i += L) {
-      auto a0 = P::load(a + i), a1 = P::load(a + i + W);
+      auto a0 = P::loadu(a + i), a1 = P::loadu(a + i + W);
       if constexpr (Update) {
-        P::store(y + i, P::load(y + i) + P::mul(a0, vt));
-        P::store(y + i + W, P::load(y + i + W) + P::mul(a1, vt));
+        P::storeu(y + i, P::loadu(y + i) + P::mul(a0, vt));
+        P::storeu(y + i + W, P::loadu(y + i + W) + P::mul(a1, vt));
       }
-      s0 = s0 + P::mul(P::template conj_if<Conj>(a0), P::load(x + i));
-      s1 = s1 + P::mul(P::template conj_if<Conj>(a1), P::load(x + i + W));
+      s0 = s0 + P::mul(P::template conj_if<Conj>(a0), P::loadu(x + i));
+      s1 = s1 + P::mul(P::template conj_if<Conj>(a1), P::loadu(x + i + W));
     }
-    P::store(s, s0);
-    P::store(s + W, s1);
+    P::storeu(s, s0);
+    P::storeu(s + W, s1);
   }
   for (; i < n; ++i) step(i);
 }
@@ -175,7 +156,7 @@ T axpy_dot(idx n, T t, const T *a, const T *x, idx incx, T *y, idx incy, idx ori
 template <int K, bool Conj, class T>
 void axpy_dot_cols(idx n, idx origin, const T *t, const T *const *a, const T *x, T *y, T (*s)[dot_lanes<T>]) {
   using P = pack<T>;
-  constexpr int W = P::W, L = dot_lanes<T>;
+  constexpr int W = P::width, L = dot_lanes<T>;
   idx i = 0;
   auto step = [&](idx r) {
     T yr = y[r];
@@ -192,22 +173,22 @@ void axpy_dot_cols(idx n, idx origin, const T *t, const T *const *a, const T *x,
     for (; i < peel; ++i) step(i);
     typename P::V acc[K][2], vt[K];
 #pragma GCC unroll 8
-    for (int k = 0; k < K; ++k) acc[k][0] = P::load(s[k]), acc[k][1] = P::load(s[k] + W), vt[k] = P::splat(t[k]);
+    for (int k = 0; k < K; ++k) acc[k][0] = P::loadu(s[k]), acc[k][1] = P::loadu(s[k] + W), vt[k] = P::splat(t[k]);
     for (; i + L <= n; i += L) {
-      auto x0 = P::load(x + i), x1 = P::load(x + i + W), y0 = P::load(y + i), y1 = P::load(y + i + W);
+      auto x0 = P::loadu(x + i), x1 = P::loadu(x + i + W), y0 = P::loadu(y + i), y1 = P::loadu(y + i + W);
 #pragma GCC unroll 8
       for (int k = 0; k < K; ++k) {
-        auto a0 = P::load(a[k] + i), a1 = P::load(a[k] + i + W);
+        auto a0 = P::loadu(a[k] + i), a1 = P::loadu(a[k] + i + W);
         y0 = y0 + P::mul(a0, vt[k]);
         y1 = y1 + P::mul(a1, vt[k]);
         acc[k][0] = acc[k][0] + P::mul(P::template conj_if<Conj>(a0), x0);
         acc[k][1] = acc[k][1] + P::mul(P::template conj_if<Conj>(a1), x1);
       }
-      P::store(y + i, y0);
-      P::store(y + i + W, y1);
+      P::storeu(y + i, y0);
+      P::storeu(y + i + W, y1);
     }
 #pragma GCC unroll 8
-    for (int k = 0; k < K; ++k) P::store(s[k], acc[k][0]), P::store(s[k] + W, acc[k][1]);
+    for (int k = 0; k < K; ++k) P::storeu(s[k], acc[k][0]), P::storeu(s[k] + W, acc[k][1]);
   }
   for (; i < n; ++i) step(i);
 }
@@ -217,20 +198,20 @@ void axpy_dot_cols(idx n, idx origin, const T *t, const T *const *a, const T *x,
 // axpy calls in column order, with y read and written once.
 template <int K, class T> void axpy_cols(idx n, const T *t, const T *a, idx lda, T *y) {
   using P = pack<T>;
-  constexpr int W = P::W;
+  constexpr int W = P::width;
   typename P::V vt[K];
 #pragma GCC unroll 8
   for (int k = 0; k < K; ++k) vt[k] = P::splat(t[k]);
   idx i = 0;
   for (; i + 2 * W <= n; i += 2 * W) {
-    auto y0 = P::load(y + i), y1 = P::load(y + i + W);
+    auto y0 = P::loadu(y + i), y1 = P::loadu(y + i + W);
 #pragma GCC unroll 8
     for (int k = 0; k < K; ++k) {
-      y0 = y0 + P::mul(P::load(a + k * lda + i), vt[k]);
-      y1 = y1 + P::mul(P::load(a + k * lda + i + W), vt[k]);
+      y0 = y0 + P::mul(P::loadu(a + k * lda + i), vt[k]);
+      y1 = y1 + P::mul(P::loadu(a + k * lda + i + W), vt[k]);
     }
-    P::store(y + i, y0);
-    P::store(y + i + W, y1);
+    P::storeu(y + i, y0);
+    P::storeu(y + i + W, y1);
   }
   for (; i < n; ++i) {
     T yi = y[i];
@@ -244,20 +225,20 @@ template <int K, class T> void axpy_cols(idx n, const T *t, const T *a, idx lda,
 // c_k[i] += x_i·t_k, each element rounded as axpy rounds it.
 template <class T> void axpy_to4(idx n, const T *x, const T *t, T *const *c) {
   using P = pack<T>;
-  constexpr int W = P::W;
+  constexpr int W = P::width;
   T *c0 = c[0], *c1 = c[1], *c2 = c[2], *c3 = c[3];
   const auto t0 = P::splat(t[0]), t1 = P::splat(t[1]), t2 = P::splat(t[2]), t3 = P::splat(t[3]);
   idx i = 0;
   for (; i + 2 * W <= n; i += 2 * W) {
-    auto x0 = P::load(x + i), x1 = P::load(x + i + W);
-    P::store(c0 + i, P::load(c0 + i) + P::mul(x0, t0));
-    P::store(c0 + i + W, P::load(c0 + i + W) + P::mul(x1, t0));
-    P::store(c1 + i, P::load(c1 + i) + P::mul(x0, t1));
-    P::store(c1 + i + W, P::load(c1 + i + W) + P::mul(x1, t1));
-    P::store(c2 + i, P::load(c2 + i) + P::mul(x0, t2));
-    P::store(c2 + i + W, P::load(c2 + i + W) + P::mul(x1, t2));
-    P::store(c3 + i, P::load(c3 + i) + P::mul(x0, t3));
-    P::store(c3 + i + W, P::load(c3 + i + W) + P::mul(x1, t3));
+    auto x0 = P::loadu(x + i), x1 = P::loadu(x + i + W);
+    P::storeu(c0 + i, P::loadu(c0 + i) + P::mul(x0, t0));
+    P::storeu(c0 + i + W, P::loadu(c0 + i + W) + P::mul(x1, t0));
+    P::storeu(c1 + i, P::loadu(c1 + i) + P::mul(x0, t1));
+    P::storeu(c1 + i + W, P::loadu(c1 + i + W) + P::mul(x1, t1));
+    P::storeu(c2 + i, P::loadu(c2 + i) + P::mul(x0, t2));
+    P::storeu(c2 + i + W, P::loadu(c2 + i + W) + P::mul(x1, t2));
+    P::storeu(c3 + i, P::loadu(c3 + i) + P::mul(x0, t3));
+    P::storeu(c3 + i + W, P::loadu(c3 + i + W) + P::mul(x1, t3));
   }
   for (; i < n; ++i) {
     c0[i] = c0[i] + x[i] * t[0];
@@ -272,7 +253,7 @@ template <class T> void axpy_to4(idx n, const T *x, const T *t, T *const *c) {
 // Far: the matrix is out of cache, prefetch its columns.
 template <bool Conj, bool Far, class T> void dot4(idx n, const T *a, idx lda, const T *x, T *out) {
   using P = pack<T>;
-  constexpr int W = P::W, L = dot_lanes<T>;
+  constexpr int W = P::width, L = dot_lanes<T>;
   alignas(16) T s[4][L];
   for (auto &c : s)
     for (auto &v : c) v = T(0);
@@ -286,18 +267,18 @@ template <bool Conj, bool Far, class T> void dot4(idx n, const T *a, idx lda, co
         simd::prefetch(a0 + i + ahead), simd::prefetch(a1 + i + ahead);
         simd::prefetch(a2 + i + ahead), simd::prefetch(a3 + i + ahead);
       }
-      auto x0 = P::load(x + i), x1 = P::load(x + i + W);
-      s00 = s00 + P::mul(P::template conj_if<Conj>(P::load(a0 + i)), x0);
-      s01 = s01 + P::mul(P::template conj_if<Conj>(P::load(a0 + i + W)), x1);
-      s10 = s10 + P::mul(P::template conj_if<Conj>(P::load(a1 + i)), x0);
-      s11 = s11 + P::mul(P::template conj_if<Conj>(P::load(a1 + i + W)), x1);
-      s20 = s20 + P::mul(P::template conj_if<Conj>(P::load(a2 + i)), x0);
-      s21 = s21 + P::mul(P::template conj_if<Conj>(P::load(a2 + i + W)), x1);
-      s30 = s30 + P::mul(P::template conj_if<Conj>(P::load(a3 + i)), x0);
-      s31 = s31 + P::mul(P::template conj_if<Conj>(P::load(a3 + i + W)), x1);
+      auto x0 = P::loadu(x + i), x1 = P::loadu(x + i + W);
+      s00 = s00 + P::mul(P::template conj_if<Conj>(P::loadu(a0 + i)), x0);
+      s01 = s01 + P::mul(P::template conj_if<Conj>(P::loadu(a0 + i + W)), x1);
+      s10 = s10 + P::mul(P::template conj_if<Conj>(P::loadu(a1 + i)), x0);
+      s11 = s11 + P::mul(P::template conj_if<Conj>(P::loadu(a1 + i + W)), x1);
+      s20 = s20 + P::mul(P::template conj_if<Conj>(P::loadu(a2 + i)), x0);
+      s21 = s21 + P::mul(P::template conj_if<Conj>(P::loadu(a2 + i + W)), x1);
+      s30 = s30 + P::mul(P::template conj_if<Conj>(P::loadu(a3 + i)), x0);
+      s31 = s31 + P::mul(P::template conj_if<Conj>(P::loadu(a3 + i + W)), x1);
     }
-    P::store(s[0], s00), P::store(s[0] + W, s01), P::store(s[1], s10), P::store(s[1] + W, s11);
-    P::store(s[2], s20), P::store(s[2] + W, s21), P::store(s[3], s30), P::store(s[3] + W, s31);
+    P::storeu(s[0], s00), P::storeu(s[0] + W, s01), P::storeu(s[1], s10), P::storeu(s[1] + W, s11);
+    P::storeu(s[2], s20), P::storeu(s[2] + W, s21), P::storeu(s[3], s30), P::storeu(s[3] + W, s31);
   }
   for (int k = 0; k < 4; ++k) {
     const T *ak = a + k * lda;

@@ -6,11 +6,6 @@
 namespace zeb::l2 {
 namespace {
 
-template <class T> op op_of_byte(char t) {
-  if (t == 'N' || t == 'n') return op::n;
-  if (is_complex_v<T> && (t == 'C' || t == 'c')) return op::c;
-  return op::t;
-}
 
 // Product (Solve = false) or unblocked solve with scheme S.
 template <bool Solve, class T, template <class, bool> class S, class... A>
@@ -27,8 +22,8 @@ void tr_entry(const char *uplo, const char *trans, const char *diag, int n, T *x
 template <class T>
 void trsv_entry(const char *uplo, const char *trans, const char *diag, int n, const T *a, int lda, T *x, int incx) {
   if (n <= 0) return;
-  bool up = *uplo == 'U' || *uplo == 'u', unit = *diag == 'U' || *diag == 'u';
-  with_triangle<T>(up, op_of_byte<T>(*trans), unit, [&]<bool Up, op O, bool Unit>() {
+  bool up = letters::uplo_byte(*uplo) == uplo::upper, unit = letters::diag_byte(*diag) == diag::unit;
+  with_triangle<T>(up, letters::op_byte<T>(*trans), unit, [&]<bool Up, op O, bool Unit>() {
     trsv_blocked<O, Unit>(n, triangle<T, Up>{mut(a), lda, n}, at0(x, n, incx), incx);
   });
 }

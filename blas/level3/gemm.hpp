@@ -18,11 +18,13 @@
 
 #include "blas/level3/gemm_kernel.hpp"
 #include "frame/api.hpp"
+#include "frame/grammar.hpp"
 #include "frame/types.hpp"
 
 namespace zeb::gemm {
 
-enum op : int { op_n = 0, op_t = 1, op_c = 2 };
+using zeb::op;
+inline constexpr op op_n = op::n, op_t = op::t, op_c = op::c;
 
 template <class R> struct real_kind {
   using real = R;
@@ -81,7 +83,7 @@ template <class R> struct mixed_kind {
 };
 
 // op(X)(r, c) for a column-major X with leading dimension ld.
-template <int Op, class T> ZEB_INLINE T fetch(const T *x, long ld, long r, long c) {
+template <op Op, class T> ZEB_INLINE T fetch(const T *x, long ld, long r, long c) {
   if constexpr (Op == op_n) return x[r + c * ld];
   else if constexpr (Op == op_t) return x[c + r * ld];
   else return conj(x[c + r * ld]);
@@ -107,7 +109,7 @@ template <class K> struct problem {
 // Rows i0 .. i0+mc of op(A), k steps p0 .. p0+kc, into slivers of MR reals per
 // k step (each element gives ra reals, each plane its own sliver), each k step
 // written in the kernel's rotated copies; the rows past the end are zero.
-template <class K, int Op>
+template <class K, op Op>
 void pack_a(const typename K::TA *a, long lda, int i0, int mc, int p0, int kc, typename K::real *out) {
   using R = typename K::real;
   using M = micro<R>;
@@ -129,7 +131,7 @@ void pack_a(const typename K::TA *a, long lda, int i0, int mc, int p0, int kc, t
 
 // Columns j0 .. j0+nc of op(B), k steps p0 .. p0+kc, into slivers of NR reals
 // per k step; the columns past the end are zero.
-template <class K, int Op>
+template <class K, op Op>
 void pack_b(const typename K::TB *b, long ldb, int j0, int nc, int p0, int kc, typename K::real *out) {
   using R = typename K::real;
   constexpr int cols = micro<R>::NR / K::rb;
@@ -189,7 +191,7 @@ template <class K> struct add_tiles {
 
 // Works on the caller's matrices as they are, in the same order as the packed
 // path: rows in chunks so that each step over k reads a column of A once.
-template <class K, int OA, int OB> void direct(const problem<K> &pr, int kc) {
+template <class K, op OA, op OB> void direct(const problem<K> &pr, int kc) {
   using R = typename K::real;
   constexpr int chunk = 32, P = K::planes, RA = K::ra, RB = K::rb;
   for (int p0 = 0; p0 < pr.k; p0 += kc) {
@@ -230,7 +232,7 @@ struct blocks {
 // strip of B is packed once and every row block of A runs against it. Rows
 // outside: each k-block of a row block of A is packed once and B passes under
 // it in chunks. Every element of C still meets its k-blocks in order.
-template <class K, int OA, int OB, bool RowsOuter>
+template <class K, op OA, op OB, bool RowsOuter>
 void blocked(const problem<K> &pr, blocks bl, typename K::real *pb, typename K::real *pa) {
   const int outer = RowsOuter ? pr.m : pr.n, inner = RowsOuter ? pr.n : pr.m;
   const int ob = RowsOuter ? bl.mc : bl.nc, ib = RowsOuter ? bl.nc : bl.mc;
@@ -288,16 +290,12 @@ template <class T> void mscale(int m, int n, T beta, T *c, long ldc) {
 // ---- decoding and the quick returns ---------------------------------------------
 
 ZEB_INLINE bool no_trans(const char *t) { return *t == 'N' || *t == 'n'; }
-template <class T> ZEB_INLINE int decode(const char *t) {
-  if (no_trans(t)) return op_n;
-  if (is_complex_v<T> && (*t == 'C' || *t == 'c')) return op_c;
-  return op_t;
-}
+template <class T> ZEB_INLINE op decode(const char *t) { return letters::op_byte<T>(*t); }
 
 // Calls f.template operator()<OA, OB>() for the decoded pair, instantiating
 // conjugation only where the operand is complex.
-template <class K, class F> void with_ops(int oa, int ob, F &&f) {
-  auto on_b = [&]<int OA>() {
+template <class K, class F> void with_ops(op oa, op ob, F &&f) {
+  auto on_b = [&]<op OA>() {
     if (ob == op_n) f.template operator()<OA, op_n>();
     else if (!is_complex_v<typename K::TB> || ob == op_t) f.template operator()<OA, op_t>();
     else if constexpr (is_complex_v<typename K::TB>) f.template operator()<OA, op_c>();

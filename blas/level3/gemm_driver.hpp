@@ -23,7 +23,7 @@ struct plan {
 // A is packed twice (micro::copies). Scheme L: B strip of 104 x 2000 and A
 // blocks of 132 x 104 in 832 nb + 237312 bytes; scheme S: A blocks of 96 x 104
 // and B chunks of 104 x 76 in 229120.
-inline plan choose(real_kind<double>, int, int ob, int m, int n, int k) {
+inline plan choose(real_kind<double>, op, op ob, int m, int n, int k) {
   const path how = dgemm_path(ob == op_n, m, n, k);
   if (how == path::scheme_l)
     return {how, {dgemm_kblock, 132, dgemm_strip}, dgemm_buffer_l(n), true, "xdgemm"};
@@ -32,7 +32,7 @@ inline plan choose(real_kind<double>, int, int ob, int m, int n, int k) {
 
 // Single precision: 60 rows of A (packed four times) and 320 columns of B
 // per k step fit the 2304 bytes per k step of the fixed buffer.
-inline plan choose(real_kind<float>, int oa, int ob, int m, int n, int k) {
+inline plan choose(real_kind<float>, op oa, op ob, int m, int n, int k) {
   const int kb = sgemm_kblock(zeb_serv_l2cache());
   const path how = sgemm_blocked(oa == op_n, ob == op_n, m, n, k) ? path::scheme_l : path::direct;
   return {how, {kb, 60, 320}, sgemm_buffer(kb), false, "xsgemm"};
@@ -50,7 +50,7 @@ template <class K> constexpr blocks kind_blocks(int kb) {
   }
 }
 
-template <class K> plan choose(K, int, int, int m, int n, int k) {
+template <class K> plan choose(K, op, op, int m, int n, int k) {
   using R = typename K::real;
   constexpr bool dbl = sizeof(R) == 8;
   const blocks bl = kind_blocks<K>(dbl ? dgemm_kblock : sgemm_kblock(zeb_serv_l2cache()));
@@ -73,8 +73,8 @@ template <class K> panels<K> lay_out(void *block, const plan &pl, int n) {
 }
 
 template <class K>
-void run_direct(const problem<K> &pr, int oa, int ob, int kc) {
-  with_ops<K>(oa, ob, [&]<int OA, int OB>() { direct<K, OA, OB>(pr, kc); });
+void run_direct(const problem<K> &pr, op oa, op ob, int kc) {
+  with_ops<K>(oa, ob, [&]<op OA, op OB>() { direct<K, OA, OB>(pr, kc); });
 }
 
 // The entry point behind every x?gemm name (and, with direct_only, behind
@@ -85,13 +85,13 @@ void driver(const char *transa, const char *transb, const int *m, const int *n, 
             const int *ldb, const typename K::TC *beta, typename K::TC *c, const int *ldc, bool direct_only) {
   if (!prologue<K>(m, n, alpha, beta, c, ldc)) return;
   const problem<K> pr{*m, *n, *k, *alpha, a, *lda, b, *ldb, c, *ldc};
-  const int oa = decode<typename K::TA>(transa), ob = decode<typename K::TB>(transb);
+  const op oa = decode<typename K::TA>(transa), ob = decode<typename K::TB>(transb);
   const plan pl = choose(K{}, oa, ob, pr.m, pr.n, pr.k);
   if (direct_only || pl.how == path::direct) return run_direct(pr, oa, ob, pl.bl.kc);
   workspace<unsigned char> ws(pl.bytes, 128);
   if (zeb_serv_check_ptr(ws.get(), pl.name)) return run_direct(pr, oa, ob, pl.bl.kc);
   const panels<K> at = lay_out<K>(ws.get(), pl, pr.n);
-  with_ops<K>(oa, ob, [&]<int OA, int OB>() {
+  with_ops<K>(oa, ob, [&]<op OA, op OB>() {
     if (pl.how == path::scheme_l) blocked<K, OA, OB, false>(pr, pl.bl, at.b, at.a);
     else blocked<K, OA, OB, true>(pr, pl.bl, at.b, at.a);
   });

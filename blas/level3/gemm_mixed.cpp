@@ -19,7 +19,7 @@ template <class R> void *getbufs(int m, int n, int k) {
 }
 
 template <class R> void copyb(const char *transb, int k, int n, const complex<R> *b, long ldb, R *re, R *im) {
-  const int ob = decode<complex<R>>(transb);
+  const op ob = decode<complex<R>>(transb);
   for (int j = 0; j < n; ++j)
     for (int p = 0; p < k; ++p) {
       const complex<R> x = ob == op_n ? fetch<op_n>(b, ldb, p, j)

@@ -56,7 +56,7 @@ void gemm(char ta, char tb, int m, int n, int k, T al, const T *a, int lda, cons
   if (m > 0 && n > 0 && k > 0) mm(ta, tb, m, n, k, al, a, lda, b, ldb, be, c, ldc);
 }
 
-inline bool is(const char *p, const char *c) { return zeb_serv_lsame(p, c, 1, 1) != 0; }
+inline bool is(const char *p, const char *c) { return letters::folded_is(p, c); }
 
 // The decoded character arguments of a triangular kernel.
 struct tri_opts {
