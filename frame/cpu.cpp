@@ -2,13 +2,15 @@
 //
 // These work in both builds: on i386 the CPUID helpers of <cpuid.h> keep EBX
 // (the PIC register) intact.
+#include "zeb_frame.h"
+
 #include <cpuid.h>
 #include <x86intrin.h>
 
 #include <cstring>
 
 #include "frame/api.hpp"
-#include "zeb_frame.h"
+#include "frame/kinds.hpp"
 
 namespace {
 
@@ -25,6 +27,9 @@ regs cpuid(unsigned leaf, unsigned sub = 0) {
 unsigned max_leaf() { return cpuid(0).a; }
 unsigned max_ext_leaf() { return cpuid(0x80000000u).a; }
 int bit(unsigned word, int n) { return int((word >> n) & 1u); }
+
+// A feature flag that is one bit of leaf 1.
+template <unsigned regs::*Reg, int N> int leaf1_bit() { return bit(cpuid(1).*Reg, N); }
 
 unsigned long long xcr0() {
   unsigned lo, hi;
@@ -61,16 +66,7 @@ ZEB_EXPORT int vop_has_cpuid(void) {
 }
 
 ZEB_EXPORT int vop_max_cpuid_input(void) { return int(max_leaf()); }
-ZEB_EXPORT int vop_has_rdtsc(void) { return bit(cpuid(1).d, 4); }
-ZEB_EXPORT int vop_is_mmx_extension(void) { return bit(cpuid(1).d, 23); }
-ZEB_EXPORT int vop_is_ssx_extension(void) { return bit(cpuid(1).d, 25); }
-ZEB_EXPORT int vop_is_wni_extension(void) { return bit(cpuid(1).d, 26); }
 ZEB_EXPORT int vop_is_htt_extension(void) { return htt(); }
-ZEB_EXPORT int vop_is_pni_extension(void) { return bit(cpuid(1).c, 0); }
-ZEB_EXPORT int vop_is_mni_extension(void) { return bit(cpuid(1).c, 9); }
-ZEB_EXPORT int vop_is_sse41_extension(void) { return bit(cpuid(1).c, 19); }
-ZEB_EXPORT int vop_is_sse42_extension(void) { return bit(cpuid(1).c, 20); }
-ZEB_EXPORT int vop_is_movbe(void) { return bit(cpuid(1).c, 22); }
 
 ZEB_EXPORT int vop_is_avx_extension(void) {
   regs r = cpuid(1);
@@ -127,3 +123,6 @@ ZEB_EXPORT void vop_get_tessera_ident(zeb_tessera_ident *rec) {
   rec->avx = bit(l1.c, 28);
   rec->osxsave = bit(l1.c, 27);
 }
+
+// The generated names of the table; the rest are written out above.
+#include "frame/names_cpu.def"

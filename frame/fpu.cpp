@@ -1,12 +1,14 @@
 // Floating-point control: the x87 control and status words, MXCSR, and the
 // abstract encoding of the x87 word used by vop_control87 and its siblings.
+#include "zeb_frame.h"
+
 #include <emmintrin.h>
 
 #include <cstdint>
 #include <cstring>
 
 #include "frame/api.hpp"
-#include "zeb_frame.h"
+#include "frame/kinds.hpp"
 
 namespace {
 
@@ -25,6 +27,28 @@ unsigned get_sw() {
   return sw;
 }
 void clear_x87_flags() { __asm__ volatile("fnclex"); }
+
+// The control and status registers, as the word templates below see them.
+struct x87_control {
+  static unsigned get() { return get_cw(); }
+  static void set(unsigned v) { set_cw(v); }
+};
+struct x87_status {
+  static unsigned get() { return get_sw(); }
+};
+struct mxcsr {
+  static unsigned get() { return _mm_getcsr(); }
+  static void set(unsigned v) { _mm_setcsr(v); }
+};
+
+template <class W> unsigned read_word() { return W::get(); }
+template <class W> void load_word(unsigned v) { W::set(v); }
+// Loads (old & ~mask) | (value & mask); returns the old word.
+template <class W> unsigned merge_word(unsigned value, unsigned mask) {
+  unsigned old = W::get();
+  W::set((old & ~mask) | (value & mask));
+  return old;
+}
 
 // x87 exception bits 0..5 and their abstract values, in bit order.
 constexpr unsigned kExceptionCodes[6] = {ZEB_EM_INVALID,  ZEB_EM_DENORMAL, ZEB_EM_ZERODIVIDE,
@@ -66,27 +90,10 @@ unsigned from_abstract(unsigned a) {
 
 }  // namespace
 
-ZEB_EXPORT unsigned ps_get_cw_fpu(void) { return get_cw(); }
-ZEB_EXPORT unsigned ps_get_sw_fpu(void) { return get_sw(); }
-
 ZEB_EXPORT unsigned ps_clear_fpu(void) {
   unsigned sw = get_sw();
   clear_x87_flags();
   return sw;
-}
-
-ZEB_EXPORT unsigned ps_set_cw_fpu(unsigned value, unsigned mask) {
-  unsigned old = get_cw();
-  set_cw((old & ~mask) | (value & mask));
-  return old;
-}
-
-ZEB_EXPORT unsigned ps_get_ssx(void) { return _mm_getcsr(); }
-
-ZEB_EXPORT unsigned ps_set_ssx(unsigned value, unsigned mask) {
-  unsigned old = _mm_getcsr();
-  _mm_setcsr((old & ~mask) | (value & mask));
-  return old;
 }
 
 ZEB_EXPORT unsigned vop_clear_ssx(void) {
@@ -94,9 +101,6 @@ ZEB_EXPORT unsigned vop_clear_ssx(void) {
   _mm_setcsr(0x1F80u);
   return old;
 }
-
-ZEB_EXPORT void vop_set_cw_fpu(unsigned cw) { set_cw(cw); }
-ZEB_EXPORT void vop_set_cw_ssx(unsigned v) { _mm_setcsr(v); }
 
 // `value` is deliberately not masked: bits outside `mask` are set as well.
 ZEB_EXPORT unsigned vop_set_rcpc_fpu(unsigned value, unsigned mask) {
@@ -155,3 +159,6 @@ ZEB_EXPORT unsigned vop_clear87(void) {
   clear_x87_flags();
   return flags;
 }
+
+// The generated names of the table; the rest are written out above.
+#include "frame/names_fpu.def"

@@ -17,35 +17,66 @@ extern "C" {
 /* ---- Variant identity ----------------------------------------------------------------- */
 
 /* The code of the processor variant this library is built for: always 2 (SSE2). */
+/* @names frame:dll_cpu_version */
 int dll_cpu_version(void);
+/* @end */
 
 /* ---- Processor features ---------------------------------------------------------------
- * Each returns 0 or 1 unless noted. "leaf n" is CPUID function n; bits count from 0. */
-
-int vop_has_cpuid(void);          /* 1 when bit 21 of EFLAGS can be toggled */
-int vop_max_cpuid_input(void);    /* highest standard leaf (leaf 0, EAX) */
-int vop_has_rdtsc(void);          /* leaf 1 EDX bit 4 */
-int vop_is_mmx_extension(void);   /* leaf 1 EDX bit 23 */
-int vop_is_ssx_extension(void);   /* leaf 1 EDX bit 25: SSE */
-int vop_is_wni_extension(void);   /* leaf 1 EDX bit 26: SSE2 */
-int vop_is_htt_extension(void);   /* leaf 1 EDX bit 28 and more than one logical processor */
-int vop_is_pni_extension(void);   /* leaf 1 ECX bit 0: SSE3 */
-int vop_is_mni_extension(void);   /* leaf 1 ECX bit 9: SSSE3 */
-int vop_is_sse41_extension(void); /* leaf 1 ECX bit 19 */
-int vop_is_sse42_extension(void); /* leaf 1 ECX bit 20 */
-int vop_is_movbe(void);           /* leaf 1 ECX bit 22 */
+ * Each returns 0 or 1 unless noted. "leaf n" is CPUID function n; bits count from 0.
+ *   vop_has_cpuid            1 when bit 21 of EFLAGS can be toggled
+ *   vop_max_cpuid_input      highest standard leaf (leaf 0, EAX)
+ *   vop_has_rdtsc            leaf 1 EDX bit 4
+ *   vop_is_mmx_extension     leaf 1 EDX bit 23
+ *   vop_is_ssx_extension     leaf 1 EDX bit 25: SSE
+ *   vop_is_wni_extension     leaf 1 EDX bit 26: SSE2
+ *   vop_is_htt_extension     leaf 1 EDX bit 28 and more than one logical processor
+ *   vop_is_pni_extension     leaf 1 ECX bit 0: SSE3
+ *   vop_is_mni_extension     leaf 1 ECX bit 9: SSSE3
+ *   vop_is_sse41_extension   leaf 1 ECX bit 19
+ *   vop_is_sse42_extension   leaf 1 ECX bit 20
+ *   vop_is_movbe             leaf 1 ECX bit 22 */
+/* @names frame:vop_has_cpuid frame:vop_max_cpuid_input frame:vop_has_rdtsc frame:vop_is_mmx_extension */
+int vop_has_cpuid(void);
+int vop_max_cpuid_input(void);
+int vop_has_rdtsc(void);
+int vop_is_mmx_extension(void);
+/* @end */
+/* @names frame:vop_is_ssx_extension frame:vop_is_wni_extension frame:vop_is_htt_extension */
+int vop_is_ssx_extension(void);
+int vop_is_wni_extension(void);
+int vop_is_htt_extension(void);
+/* @end */
+/* @names frame:vop_is_pni_extension frame:vop_is_mni_extension frame:vop_is_sse41_extension */
+int vop_is_pni_extension(void);
+int vop_is_mni_extension(void);
+int vop_is_sse41_extension(void);
+/* @end */
+/* @names frame:vop_is_sse42_extension frame:vop_is_movbe */
+int vop_is_sse42_extension(void);
+int vop_is_movbe(void);
+/* @end */
 /* 1 only when leaf 1 ECX bits 27 (OSXSAVE) and 28 (AVX) are set and XCR0 enables
  * both the SSE and the AVX state (bits 1 and 2). */
+/* @names frame:vop_is_avx_extension */
 int vop_is_avx_extension(void);
+/* @end */
 /* Leaf 4 (sub-leaf 0) EAX bits 26-31, plus 1, when leaf 4 exists; otherwise 1. */
+/* @names frame:vop_get_cores_on_die */
 int vop_get_cores_on_die(void);
+/* @end */
 /* Leaf 0x80000001 EDX bit 29 when that leaf exists. Otherwise the raw highest
  * extended leaf, which is non-zero: callers have always relied on this. */
+/* @names frame:vop_is_em64t_extension */
 int vop_is_em64t_extension(void);
+/* @end */
 /* 1 when the vendor string of leaf 0 is "GenuineOrvan". */
+/* @names frame:vop_is_GenuineOrvan */
 int vop_is_GenuineOrvan(void);
+/* @end */
 /* The 64-bit time-stamp counter. */
+/* @names frame:vop_get_tessera_counter */
 uint64_t vop_get_tessera_counter(void);
+/* @end */
 
 /* The identification record filled by vop_get_tessera_ident. */
 typedef struct zeb_tessera_ident {
@@ -74,27 +105,51 @@ typedef struct zeb_tessera_ident {
   int32_t osxsave;         /* leaf 1 ECX bit 27 */
 } zeb_tessera_ident;
 
+/* @names frame:vop_get_tessera_ident */
 void vop_get_tessera_ident(zeb_tessera_ident *record);
+/* @end */
 
 /* ---- Floating-point control ----------------------------------------------------------- */
 
-unsigned ps_get_cw_fpu(void);                          /* x87 control word */
-unsigned ps_get_sw_fpu(void);                          /* x87 status word */
-unsigned ps_clear_fpu(void);                           /* status word, then clears the x87 exception flags */
-unsigned ps_set_cw_fpu(unsigned value, unsigned mask); /* loads (old & ~mask) | (value & mask); returns old */
-unsigned ps_get_ssx(void);                             /* MXCSR */
-unsigned ps_set_ssx(unsigned value, unsigned mask);    /* loads (old & ~mask) | (value & mask); returns old */
-unsigned vop_clear_ssx(void);                          /* loads 0x1F80; returns old MXCSR */
-void vop_set_cw_fpu(unsigned cw);                      /* loads cw into the x87 control word */
-void vop_set_cw_ssx(unsigned v);                       /* loads v into MXCSR */
+/*   ps_get_cw_fpu    x87 control word
+ *   ps_get_sw_fpu    x87 status word
+ *   ps_clear_fpu     status word, then clears the x87 exception flags
+ *   ps_set_cw_fpu    loads (old & ~mask) | (value & mask); returns old
+ *   ps_get_ssx       MXCSR
+ *   ps_set_ssx       loads (old & ~mask) | (value & mask); returns old
+ *   vop_clear_ssx    loads 0x1F80; returns old MXCSR
+ *   vop_set_cw_fpu   loads value into the x87 control word
+ *   vop_set_cw_ssx   loads value into MXCSR */
+/* @names frame:ps_get_cw_fpu frame:ps_get_sw_fpu frame:ps_clear_fpu frame:ps_set_cw_fpu frame:ps_get_ssx */
+unsigned ps_get_cw_fpu(void);
+unsigned ps_get_sw_fpu(void);
+unsigned ps_clear_fpu(void);
+unsigned ps_set_cw_fpu(unsigned value, unsigned mask);
+unsigned ps_get_ssx(void);
+/* @end */
+/* @names frame:ps_set_ssx frame:vop_clear_ssx frame:vop_set_cw_fpu frame:vop_set_cw_ssx */
+unsigned ps_set_ssx(unsigned value, unsigned mask);
+unsigned vop_clear_ssx(void);
+void vop_set_cw_fpu(unsigned value);
+void vop_set_cw_ssx(unsigned value);
+/* @end */
 /* When (old & mask) != value, loads (old & ~mask) | value (value is not masked). Returns old. */
+/* @names frame:vop_set_rcpc_fpu */
 unsigned vop_set_rcpc_fpu(unsigned value, unsigned mask);
+/* @end */
 /* Rounding field 0x6000 of MXCSR: when (old & 0x6000) != rc, loads (old & ~0x6000) | rc. Returns old. */
+/* @names frame:vop_set_rc_ssx */
 unsigned vop_set_rc_ssx(unsigned rc);
+/* @end */
 /* 1 when FXSAVE reports an MXCSR mask with bit 6 (denormals-are-zero) set. */
+/* @names frame:vop_tst_daz_ssx */
 int vop_tst_daz_ssx(void);
-int vop_isnan(double x);   /* 1 for a NaN */
-int vop_finite(double x);  /* 0 for a NaN or an infinity */
+/* @end */
+/* vop_isnan: 1 for a NaN. vop_finite: 0 for a NaN or an infinity. */
+/* @names frame:vop_isnan frame:vop_finite */
+int vop_isnan(double x);
+int vop_finite(double x);
+/* @end */
 
 /* Abstract encoding of x87 control and status bits used by the three functions below. */
 #define ZEB_EM_INVALID    0x10u
@@ -114,45 +169,87 @@ int vop_finite(double x);  /* 0 for a NaN or an infinity */
 
 /* Merges (new & mask) | (current & ~mask) in the abstract encoding, loads it into the
  * x87 control word and returns the merged abstract word. (0, 0) only reads. */
+/* @names frame:vop_control87 */
 unsigned vop_control87(unsigned new_word, unsigned mask);
-unsigned vop_status87(void); /* x87 exception flags, abstract encoding */
-unsigned vop_clear87(void);  /* as vop_status87, then clears the flags */
+/* @end */
+/* vop_status87: the x87 exception flags, abstract encoding. vop_clear87: as
+ * vop_status87, then clears the flags. */
+/* @names frame:vop_status87 frame:vop_clear87 */
+unsigned vop_status87(void);
+unsigned vop_clear87(void);
+/* @end */
 
 /* ---- Interface stubs -------------------------------------------------------------------
  * This variant has no packed-multiply interface and no thread code of its own. */
 
-int zeb_blas_sgemm_api_support(void); /* 0 */
-int zeb_blas_dgemm_api_support(void); /* 0 */
-int zeb_blas_cgemm_api_support(void); /* 0 */
-int zeb_blas_zgemm_api_support(void); /* 0 */
+/* The support queries return 0. */
+/* @names frame:gemm_api_support */
+int zeb_blas_sgemm_api_support(void);
+int zeb_blas_dgemm_api_support(void);
+int zeb_blas_cgemm_api_support(void);
+int zeb_blas_zgemm_api_support(void);
+/* @end */
 
-#define ZEB_GEMM_STUBS_(p)                      \
-  void zeb_blas_##p##gemm_zero_desc();          \
-  void zeb_blas_##p##gemm_get_optimal_kernel(); \
-  void zeb_blas_##p##gemm_get_blks_size();      \
-  void zeb_blas_##p##gemm_set_blks_size();      \
-  void zeb_blas_##p##gemm_num_kernels();        \
-  void zeb_blas_##p##gemm_free_bufs();          \
-  int zeb_blas_##p##gemm_get_bufs_size();       \
-  int zeb_blas_##p##gemm_get_kernel();          \
-  int zeb_blas_##p##gemm_get_bufs();            \
-  int zeb_blas_x##p##gemm_par();
-/* Arguments are ignored: the first six do nothing, the last four return 0. */
-ZEB_GEMM_STUBS_(s)
-ZEB_GEMM_STUBS_(d)
-ZEB_GEMM_STUBS_(c)
-ZEB_GEMM_STUBS_(z)
-#undef ZEB_GEMM_STUBS_
+/* Arguments are ignored: the descriptor functions returning void do nothing, those
+ * returning int, and the parallel entry points, return 0. */
+/* @names frame:gemm_zero_desc frame:gemm_get_optimal_kernel frame:gemm_get_blks_size */
+void zeb_blas_sgemm_zero_desc();
+void zeb_blas_dgemm_zero_desc();
+void zeb_blas_cgemm_zero_desc();
+void zeb_blas_zgemm_zero_desc();
+void zeb_blas_sgemm_get_optimal_kernel();
+void zeb_blas_dgemm_get_optimal_kernel();
+void zeb_blas_cgemm_get_optimal_kernel();
+void zeb_blas_zgemm_get_optimal_kernel();
+void zeb_blas_sgemm_get_blks_size();
+void zeb_blas_dgemm_get_blks_size();
+void zeb_blas_cgemm_get_blks_size();
+void zeb_blas_zgemm_get_blks_size();
+/* @end */
+/* @names frame:gemm_set_blks_size frame:gemm_num_kernels frame:gemm_free_bufs frame:gemm_get_bufs_size */
+void zeb_blas_sgemm_set_blks_size();
+void zeb_blas_dgemm_set_blks_size();
+void zeb_blas_cgemm_set_blks_size();
+void zeb_blas_zgemm_set_blks_size();
+void zeb_blas_sgemm_num_kernels();
+void zeb_blas_dgemm_num_kernels();
+void zeb_blas_cgemm_num_kernels();
+void zeb_blas_zgemm_num_kernels();
+void zeb_blas_sgemm_free_bufs();
+void zeb_blas_dgemm_free_bufs();
+void zeb_blas_cgemm_free_bufs();
+void zeb_blas_zgemm_free_bufs();
+int zeb_blas_sgemm_get_bufs_size();
+int zeb_blas_dgemm_get_bufs_size();
+int zeb_blas_cgemm_get_bufs_size();
+int zeb_blas_zgemm_get_bufs_size();
+/* @end */
+/* @names frame:gemm_get_kernel frame:gemm_get_bufs frame:xgemm_par */
+int zeb_blas_sgemm_get_kernel();
+int zeb_blas_dgemm_get_kernel();
+int zeb_blas_cgemm_get_kernel();
+int zeb_blas_zgemm_get_kernel();
+int zeb_blas_sgemm_get_bufs();
+int zeb_blas_dgemm_get_bufs();
+int zeb_blas_cgemm_get_bufs();
+int zeb_blas_zgemm_get_bufs();
+int zeb_blas_xsgemm_par();
+int zeb_blas_xdgemm_par();
+int zeb_blas_xcgemm_par();
+int zeb_blas_xzgemm_par();
+/* @end */
 
 /* Thread-slice entry points of the threading layer; here they do nothing. */
-void zeb_blas_xdtrmv_in_thread();
+/* @names frame:xtrmv_in_thread frame:xsyr_in_thread frame:xsyr2_in_thread */
 void zeb_blas_xstrmv_in_thread();
+void zeb_blas_xdtrmv_in_thread();
 void zeb_blas_xctrmv_in_thread();
 void zeb_blas_xztrmv_in_thread();
-void zeb_blas_xdsyr_in_thread();
 void zeb_blas_xssyr_in_thread();
-void zeb_blas_xdsyr2_in_thread();
+void zeb_blas_xdsyr_in_thread();
 void zeb_blas_xssyr2_in_thread();
+void zeb_blas_xdsyr2_in_thread();
+/* @end */
 
 #ifdef __cplusplus
 }

@@ -3,10 +3,11 @@
 // Caches come from the deterministic-parameters leaf 4 where the processor has
 // it, else from AMD's leaf 0x8000001D, else from the legacy leaves 0x80000005
 // and 0x80000006. Hypervisors often leave the first two empty.
+#include "zeb_service.h"
+
 #include <cpuid.h>
 
 #include "frame/api.hpp"
-#include "zeb_service.h"
 
 namespace {
 

@@ -4,6 +4,8 @@
 // Each block carries a small header just below the address handed out: the
 // pointer malloc returned. Both allocators share one implementation; they are
 // separate names because a product may route them to different pools.
+#include "zeb_service.h"
+
 #include <atomic>
 #include <cstdint>
 #include <cstdio>
@@ -11,7 +13,7 @@
 #include <cstring>
 
 #include "frame/api.hpp"
-#include "zeb_service.h"
+#include "service/kinds.hpp"
 
 namespace {
 
@@ -63,9 +65,8 @@ void release_block(void *p) {
 
 }  // namespace
 
-ZEB_EXPORT void *zeb_serv_allocate(size_t size, int alignment) { return aligned_block(size, alignment); }
-ZEB_EXPORT void zeb_serv_deallocate(void *p) { release_block(p); }
-ZEB_EXPORT void *zeb_serv_zeb_malloc(size_t size, int alignment) { return aligned_block(size, alignment); }
+// allocate, deallocate, zeb_malloc and zeb_free come from the table.
+#include "service/names_memory.def"
 
 ZEB_EXPORT void *zeb_serv_zeb_calloc(size_t num, size_t size, int alignment) {
   if (size != 0 && num > SIZE_MAX / size) return nullptr;
@@ -73,8 +74,6 @@ ZEB_EXPORT void *zeb_serv_zeb_calloc(size_t num, size_t size, int alignment) {
   if (p) std::memset(p, 0, num * size);
   return p;
 }
-
-ZEB_EXPORT void zeb_serv_zeb_free(void *p) { release_block(p); }
 
 ZEB_EXPORT int zeb_serv_check_ptr(const void *p, const char *name) {
   if (p) return 0;

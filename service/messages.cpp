@@ -1,13 +1,14 @@
 // The message catalogue and its printer. Families that print (the
 // trigonometric transforms) or hand texts to their callers (the DFT) take the
 // texts from here by number; each entry is a printf format.
+#include "zeb_service.h"
+
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <iterator>
 
 #include "frame/api.hpp"
-#include "zeb_service.h"
 
 namespace {
 

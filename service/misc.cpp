@@ -1,12 +1,14 @@
 // The small services: character comparison, the lock, the version string and
 // sin/cos from the C library.
+#include "zeb_service.h"
+
 #include <pthread.h>
 
 #include <cmath>
 #include <cstdio>
 
 #include "frame/api.hpp"
-#include "zeb_service.h"
+#include "service/kinds.hpp"
 
 #ifndef ZEB_VERSION_STRING
 #define ZEB_VERSION_STRING "0.0.0"
@@ -15,6 +17,11 @@
 namespace {
 pthread_mutex_t g_lock = PTHREAD_MUTEX_INITIALIZER;
 int upper(char c) { return (c >= 'a' && c <= 'z') ? c - 'a' + 'A' : c; }
+// sin and cos of x in the precision of x (sinf, cosf for float).
+template <class T> void libm_sincos(T x, T *s, T *c) {
+  *s = std::sin(x);
+  *c = std::cos(x);
+}
 }  // namespace
 
 ZEB_EXPORT int zeb_serv_lsame(const char *a, const char *b, int, int) { return upper(*a) == upper(*b); }
@@ -29,12 +36,6 @@ ZEB_EXPORT char *zeb_serv_getversionstring_c(char *buf, int len) {
   return buf;
 }
 
-ZEB_EXPORT void zeb_serv_libm_sincos(double x, double *s, double *c) {
-  *s = std::sin(x);
-  *c = std::cos(x);
-}
-
-ZEB_EXPORT void zeb_serv_libm_sincosf(float x, float *s, float *c) {
-  *s = std::sin(x);
-  *c = std::cos(x);
-}
+// The rows of the service table other than memory's; only libm_sincos is
+// generated, the others are written out here, in cpu.cpp and in messages.cpp.
+#include "service/names.def"

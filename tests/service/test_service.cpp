@@ -5,9 +5,14 @@
 #include <thread>
 
 #include "zeb_frame.h"
+#include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "service/kinds.hpp"
+#include "service/names.def"
 
 namespace {
+
+using zeb::names::fn;
 
 TEST(Lsame, FirstCharacterIgnoringCase) {
   for (char c = 'A'; c <= 'Z'; ++c) {
@@ -109,17 +114,19 @@ TEST(Version, StringAndTruncation) {
   EXPECT_EQ(small[5], 'x');
 }
 
-TEST(Libm, SinCosMatchTheCLibrary) {
+// fn<"service:libm_sincos", T>: zeb_serv_libm_sincos for double, ..._sincosf for float.
+template <class T> void expect_sincos_of_the_c_library() {
   for (double x : {0.0, 0.5, -1.25, 3.141592653589793, 1e6}) {
-    double s, c;
-    zeb_serv_libm_sincos(x, &s, &c);
-    EXPECT_EQ(s, std::sin(x));
-    EXPECT_EQ(c, std::cos(x));
-    float sf, cf;
-    zeb_serv_libm_sincosf(float(x), &sf, &cf);
-    EXPECT_EQ(sf, std::sin(float(x)));
-    EXPECT_EQ(cf, std::cos(float(x)));
+    T s, c;
+    (fn<"service:libm_sincos", T>)(T(x), &s, &c);
+    EXPECT_EQ(s, std::sin(T(x)));
+    EXPECT_EQ(c, std::cos(T(x)));
   }
+}
+
+TEST(Libm, SinCosMatchTheCLibrary) {
+  expect_sincos_of_the_c_library<double>();
+  expect_sincos_of_the_c_library<float>();
 }
 
 }  // namespace

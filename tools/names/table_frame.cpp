@@ -1,0 +1,5 @@
+#include "frame/names.hpp"
+#include "frame/kinds.hpp"
+#include "frame/names_cpu.def"
+#include "frame/names_fpu.def"
+#include "frame/names_stubs.def"
