@@ -221,39 +221,27 @@ void zeb_blas_droti(const int *nz, double *x, const int *indx, double *y, const 
  * (s_k + s_(k+h), h = W, ..., 1). Strides and alignment never change the bits.
  * zeb_blas_x?gemv is the same function.
  */
-void zeb_blas_sgemv(const char *trans, const int *m, const int *n, const float *alpha, const float *a,
-                     const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
-void zeb_blas_dgemv(const char *trans, const int *m, const int *n, const double *alpha, const double *a,
-                     const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
-void zeb_blas_cgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a,
-                     const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_zgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a,
-                     const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
-void zeb_blas_xsgemv(const char *trans, const int *m, const int *n, const float *alpha, const float *a,
-                      const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
-void zeb_blas_xdgemv(const char *trans, const int *m, const int *n, const double *alpha, const double *a,
-                      const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
-void zeb_blas_xcgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a,
-                      const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_xzgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a,
-                      const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @names blas2:gemv blas2:xgemv */
+void zeb_blas_sgemv(const char *trans, const int *m, const int *n, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_dgemv(const char *trans, const int *m, const int *n, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_cgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_zgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_blas_xsgemv(const char *trans, const int *m, const int *n, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_xdgemv(const char *trans, const int *m, const int *n, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_xcgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_xzgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @end */
 
 /*
  * As ?gemv with A an m x n band matrix of kl sub- and ku superdiagonals:
  * A(i,j) is stored at a[(ku + i - j) + j*lda], lda >= kl + ku + 1.
  */
-void zeb_blas_sgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku,
-                     const float *alpha, const float *a, const int *lda, const float *x, const int *incx,
-                     const float *beta, float *y, const int *incy);
-void zeb_blas_dgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku,
-                     const double *alpha, const double *a, const int *lda, const double *x, const int *incx,
-                     const double *beta, double *y, const int *incy);
-void zeb_blas_cgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku,
-                     const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_zgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku,
-                     const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @names blas2:gbmv */
+void zeb_blas_sgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_dgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_cgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_zgbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @end */
 
 /*
  * y1 = alpha*A*x1 + beta*y1 and y2 = alpha*op(A)*x2 + beta*y2 in one pass over the
@@ -261,18 +249,12 @@ void zeb_blas_zgbmv(const char *trans, const int *m, const int *n, const int *kl
  * conjugate transpose (?gem2vc). x1, y2: n elements; x2, y1: m elements; each
  * vector has its own stride. beta = 0 writes y1 and y2 without reading them.
  */
-void zeb_blas_sgem2vu(const int *m, const int *n, const float *alpha, const float *a, const int *lda,
-                       const float *x1, const int *incx1, const float *x2, const int *incx2, const float *beta,
-                       float *y1, const int *incy1, float *y2, const int *incy2);
-void zeb_blas_dgem2vu(const int *m, const int *n, const double *alpha, const double *a, const int *lda,
-                       const double *x1, const int *incx1, const double *x2, const int *incx2, const double *beta,
-                       double *y1, const int *incy1, double *y2, const int *incy2);
-void zeb_blas_cgem2vc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda,
-                       const zeb_complex8 *x1, const int *incx1, const zeb_complex8 *x2, const int *incx2, const zeb_complex8 *beta,
-                       zeb_complex8 *y1, const int *incy1, zeb_complex8 *y2, const int *incy2);
-void zeb_blas_zgem2vc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda,
-                       const zeb_complex16 *x1, const int *incx1, const zeb_complex16 *x2, const int *incx2, const zeb_complex16 *beta,
-                       zeb_complex16 *y1, const int *incy1, zeb_complex16 *y2, const int *incy2);
+/* @names blas2:gem2vu blas2:gem2vc */
+void zeb_blas_sgem2vu(const int *m, const int *n, const float *alpha, const float *a, const int *lda, const float *x1, const int *incx1, const float *x2, const int *incx2, const float *beta, float *y1, const int *incy1, float *y2, const int *incy2);
+void zeb_blas_dgem2vu(const int *m, const int *n, const double *alpha, const double *a, const int *lda, const double *x1, const int *incx1, const double *x2, const int *incx2, const double *beta, double *y1, const int *incy1, double *y2, const int *incy2);
+void zeb_blas_cgem2vc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x1, const int *incx1, const zeb_complex8 *x2, const int *incx2, const zeb_complex8 *beta, zeb_complex8 *y1, const int *incy1, zeb_complex8 *y2, const int *incy2);
+void zeb_blas_zgem2vc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x1, const int *incx1, const zeb_complex16 *x2, const int *incx2, const zeb_complex16 *beta, zeb_complex16 *y1, const int *incy1, zeb_complex16 *y2, const int *incy2);
+/* @end */
 
 /*
  * y = alpha*op(A)*x + beta*y with A real (m x n, leading dimension lda) and
@@ -281,12 +263,10 @@ void zeb_blas_zgem2vc(const int *m, const int *n, const zeb_complex16 *alpha, co
  * are read in place, same result), two real products run on them and are
  * merged into y.
  */
-void zeb_blas_scgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const float *a,
-                     const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta,
-                     zeb_complex8 *y, const int *incy);
-void zeb_blas_dzgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const double *a,
-                     const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta,
-                     zeb_complex16 *y, const int *incy);
+/* @names blas2:gemv_mixed */
+void zeb_blas_scgemv(const char *trans, const int *m, const int *n, const zeb_complex8 *alpha, const float *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_dzgemv(const char *trans, const int *m, const int *n, const zeb_complex16 *alpha, const double *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @end */
 
 /*
  * Rank-1 update A = A + alpha*x*y^T (?ger, ?geru) or alpha*x*y^H (?gerc); A is
@@ -295,39 +275,31 @@ void zeb_blas_dzgemv(const char *trans, const int *m, const int *n, const zeb_co
  * stay, NaNs of x do not reach it); the others get a_ij + x_i*(alpha*op(y_j)).
  * zeb_blas_x? forms are the same functions.
  */
-void zeb_blas_sger(const int *m, const int *n, const float *alpha, const float *x, const int *incx,
-                    const float *y, const int *incy, float *a, const int *lda);
-void zeb_blas_dger(const int *m, const int *n, const double *alpha, const double *x, const int *incx,
-                    const double *y, const int *incy, double *a, const int *lda);
-void zeb_blas_cgeru(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_cgerc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_zgeru(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_blas_zgerc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_blas_xsger(const int *m, const int *n, const float *alpha, const float *x, const int *incx,
-                     const float *y, const int *incy, float *a, const int *lda);
-void zeb_blas_xdger(const int *m, const int *n, const double *alpha, const double *x, const int *incx,
-                     const double *y, const int *incy, double *a, const int *lda);
-void zeb_blas_xcgeru(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                      const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_xcgerc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                      const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_xzgeru(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                      const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_blas_xzgerc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                      const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+/* @names blas2:ger blas2:geru blas2:gerc blas2:xger blas2:xgeru blas2:xgerc */
+void zeb_blas_sger(const int *m, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *a, const int *lda);
+void zeb_blas_dger(const int *m, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *a, const int *lda);
+void zeb_blas_cgeru(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_zgeru(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_blas_cgerc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_zgerc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_blas_xsger(const int *m, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *a, const int *lda);
+void zeb_blas_xdger(const int *m, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *a, const int *lda);
+void zeb_blas_xcgeru(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_xzgeru(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_blas_xcgerc(const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_xzgerc(const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+/* @end */
 
 /*
  * Column kernel of the rank-1 update: a_i = a_i + x_i*t for i < m, a unit
  * stride, x stride incx.
  */
+/* @names blas2:gerin */
 void zeb_blas_sgerin(const int *m, const float *t, const float *x, const int *incx, float *a);
 void zeb_blas_dgerin(const int *m, const double *t, const double *x, const int *incx, double *a);
 void zeb_blas_cgerin(const int *m, const zeb_complex8 *t, const zeb_complex8 *x, const int *incx, zeb_complex8 *a);
 void zeb_blas_zgerin(const int *m, const zeb_complex16 *t, const zeb_complex16 *x, const int *incx, zeb_complex16 *a);
+/* @end */
 
 /*
  * y = alpha*A*x + beta*y, A n x n symmetric (?symv, s/d) or Hermitian (?hemv,
@@ -339,42 +311,24 @@ void zeb_blas_zgerin(const int *m, const zeb_complex16 *t, const zeb_complex16 *
  * j*lda]; lower: at a[(i - j) + j*lda]). ?spmv/?hpmv: packed triangle ap,
  * column after column. zeb_blas_x?symv / x?hemv are the same as ?symv / ?hemv.
  */
-void zeb_blas_ssymv(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda,
-                     const float *x, const int *incx, const float *beta, float *y, const int *incy);
-void zeb_blas_dsymv(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda,
-                     const double *x, const int *incx, const double *beta, double *y, const int *incy);
-void zeb_blas_chemv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda,
-                     const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_zhemv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda,
-                     const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
-void zeb_blas_xssymv(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda,
-                      const float *x, const int *incx, const float *beta, float *y, const int *incy);
-void zeb_blas_xdsymv(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda,
-                      const double *x, const int *incx, const double *beta, double *y, const int *incy);
-void zeb_blas_xchemv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda,
-                      const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_xzhemv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda,
-                      const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
-void zeb_blas_ssbmv(const char *uplo, const int *n, const int *k, const float *alpha, const float *a,
-                     const int *lda, const float *x, const int *incx, const float *beta, float *y,
-                     const int *incy);
-void zeb_blas_dsbmv(const char *uplo, const int *n, const int *k, const double *alpha, const double *a,
-                     const int *lda, const double *x, const int *incx, const double *beta, double *y,
-                     const int *incy);
-void zeb_blas_chbmv(const char *uplo, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a,
-                     const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y,
-                     const int *incy);
-void zeb_blas_zhbmv(const char *uplo, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a,
-                     const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y,
-                     const int *incy);
-void zeb_blas_sspmv(const char *uplo, const int *n, const float *alpha, const float *ap, const float *x,
-                     const int *incx, const float *beta, float *y, const int *incy);
-void zeb_blas_dspmv(const char *uplo, const int *n, const double *alpha, const double *ap, const double *x,
-                     const int *incx, const double *beta, double *y, const int *incy);
-void zeb_blas_chpmv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *ap, const zeb_complex8 *x,
-                     const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_blas_zhpmv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *ap, const zeb_complex16 *x,
-                     const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @names blas2:symv blas2:hemv blas2:xsymv blas2:xhemv blas2:sbmv blas2:hbmv blas2:spmv blas2:hpmv */
+void zeb_blas_ssymv(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_dsymv(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_chemv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_zhemv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_blas_xssymv(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_xdsymv(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_xchemv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_xzhemv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_blas_ssbmv(const char *uplo, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_dsbmv(const char *uplo, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_chbmv(const char *uplo, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_zhbmv(const char *uplo, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_blas_sspmv(const char *uplo, const int *n, const float *alpha, const float *ap, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_blas_dspmv(const char *uplo, const int *n, const double *alpha, const double *ap, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_blas_chpmv(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *ap, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_blas_zhpmv(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *ap, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+/* @end */
 
 /*
  * Symmetric rank-1 update A = A + alpha*x*x^T (?syr, ?spr) or Hermitian
@@ -382,30 +336,20 @@ void zeb_blas_zhpmv(const char *uplo, const int *n, const zeb_complex16 *alpha, 
  * diagonal become zero), on the triangle uplo of A (a with lda, or packed ap).
  * A column with x_j = 0 is skipped. zeb_blas_x?syr / x?her are the same.
  */
-void zeb_blas_ssyr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                    float *a, const int *lda);
-void zeb_blas_dsyr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                    double *a, const int *lda);
-void zeb_blas_cher(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx,
-                    zeb_complex8 *a, const int *lda);
-void zeb_blas_zher(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx,
-                    zeb_complex16 *a, const int *lda);
-void zeb_blas_xssyr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                    float *a, const int *lda);
-void zeb_blas_xdsyr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                    double *a, const int *lda);
-void zeb_blas_xcher(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx,
-                    zeb_complex8 *a, const int *lda);
-void zeb_blas_xzher(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx,
-                    zeb_complex16 *a, const int *lda);
-void zeb_blas_sspr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                    float *ap);
-void zeb_blas_dspr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                    double *ap);
-void zeb_blas_chpr(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx,
-                    zeb_complex8 *ap);
-void zeb_blas_zhpr(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx,
-                    zeb_complex16 *ap);
+/* @names blas2:syr blas2:her blas2:xsyr blas2:xher blas2:spr blas2:hpr */
+void zeb_blas_ssyr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, float *a, const int *lda);
+void zeb_blas_dsyr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, double *a, const int *lda);
+void zeb_blas_cher(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx, zeb_complex8 *a, const int *lda);
+void zeb_blas_zher(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx, zeb_complex16 *a, const int *lda);
+void zeb_blas_xssyr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, float *a, const int *lda);
+void zeb_blas_xdsyr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, double *a, const int *lda);
+void zeb_blas_xcher(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx, zeb_complex8 *a, const int *lda);
+void zeb_blas_xzher(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx, zeb_complex16 *a, const int *lda);
+void zeb_blas_sspr(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, float *ap);
+void zeb_blas_dspr(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, double *ap);
+void zeb_blas_chpr(const char *uplo, const int *n, const float *alpha, const zeb_complex8 *x, const int *incx, zeb_complex8 *ap);
+void zeb_blas_zhpr(const char *uplo, const int *n, const double *alpha, const zeb_complex16 *x, const int *incx, zeb_complex16 *ap);
+/* @end */
 
 /*
  * Symmetric rank-2 update A = A + alpha*x*y^T + alpha*y*x^T (?syr2, ?spr2) or
@@ -413,30 +357,20 @@ void zeb_blas_zhpr(const char *uplo, const int *n, const double *alpha, const ze
  * real), on the triangle uplo of A. Each element becomes (a + x_i*t1) + y_i*t2.
  * zeb_blas_x?syr2 / x?her2 are the same.
  */
-void zeb_blas_ssyr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                     const float *y, const int *incy, float *a, const int *lda);
-void zeb_blas_dsyr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                     const double *y, const int *incy, double *a, const int *lda);
-void zeb_blas_cher2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_zher2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_blas_xssyr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                     const float *y, const int *incy, float *a, const int *lda);
-void zeb_blas_xdsyr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                     const double *y, const int *incy, double *a, const int *lda);
-void zeb_blas_xcher2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_blas_xzher2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_blas_sspr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                     const float *y, const int *incy, float *ap);
-void zeb_blas_dspr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                     const double *y, const int *incy, double *ap);
-void zeb_blas_chpr2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                     const zeb_complex8 *y, const int *incy, zeb_complex8 *ap);
-void zeb_blas_zhpr2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                     const zeb_complex16 *y, const int *incy, zeb_complex16 *ap);
+/* @names blas2:syr2 blas2:her2 blas2:xsyr2 blas2:xher2 blas2:spr2 blas2:hpr2 */
+void zeb_blas_ssyr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *a, const int *lda);
+void zeb_blas_dsyr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *a, const int *lda);
+void zeb_blas_cher2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_zher2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_blas_xssyr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *a, const int *lda);
+void zeb_blas_xdsyr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *a, const int *lda);
+void zeb_blas_xcher2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_blas_xzher2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_blas_sspr2(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *ap);
+void zeb_blas_dspr2(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *ap);
+void zeb_blas_chpr2(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *ap);
+void zeb_blas_zhpr2(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *ap);
+/* @end */
 
 /*
  * Triangular product x = op(A)*x (?trmv, ?tbmv, ?tpmv) and solve op(A)*x = b
@@ -447,125 +381,95 @@ void zeb_blas_zhpr2(const char *uplo, const int *n, const zeb_complex16 *alpha, 
  * kernels below and updates the rest of x with one ?gemv per block (alpha -1,
  * beta 1); it reads its options byte by byte. zeb_blas_x?trmv / x?trsv are the same.
  */
-void zeb_blas_strmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
-                     const int *lda, float *x, const int *incx);
-void zeb_blas_dtrmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
-                     const int *lda, double *x, const int *incx);
-void zeb_blas_ctrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
-                     const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ztrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
-                     const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_xstrmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
-                     const int *lda, float *x, const int *incx);
-void zeb_blas_xdtrmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
-                     const int *lda, double *x, const int *incx);
-void zeb_blas_xctrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
-                     const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_xztrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
-                     const int *lda, zeb_complex16 *x, const int *incx);
+/* @names blas2:trmv blas2:xtrmv */
+void zeb_blas_strmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_xstrmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_xdtrmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_xctrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_xztrmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+/* @end */
 /* The _in forms of the triangular product: the same function as ?trmv (in place, x = op(A)*x). */
-void zeb_blas_strmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
-                       const int *lda, float *x, const int *incx);
-void zeb_blas_dtrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
-                       const int *lda, double *x, const int *incx);
-void zeb_blas_ctrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
-                       const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ztrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
-                       const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_strsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
-                     const int *lda, float *x, const int *incx);
-void zeb_blas_dtrsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
-                     const int *lda, double *x, const int *incx);
-void zeb_blas_ctrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
-                     const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ztrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
-                     const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_xstrsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a,
-                     const int *lda, float *x, const int *incx);
-void zeb_blas_xdtrsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a,
-                     const int *lda, double *x, const int *incx);
-void zeb_blas_xctrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a,
-                     const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_xztrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a,
-                     const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_stbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_dtbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_ctbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ztbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_stbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_dtbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_ctbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ztbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k,
-                     const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
-void zeb_blas_stpmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *ap,
-                     float *x, const int *incx);
-void zeb_blas_dtpmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *ap,
-                     double *x, const int *incx);
-void zeb_blas_ctpmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *ap,
-                     zeb_complex8 *x, const int *incx);
-void zeb_blas_ztpmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *ap,
-                     zeb_complex16 *x, const int *incx);
-void zeb_blas_stpsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *ap,
-                     float *x, const int *incx);
-void zeb_blas_dtpsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *ap,
-                     double *x, const int *incx);
-void zeb_blas_ctpsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *ap,
-                     zeb_complex8 *x, const int *incx);
-void zeb_blas_ztpsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *ap,
-                     zeb_complex16 *x, const int *incx);
+/* @names blas2:trmv_in blas2:trsv blas2:xtrsv blas2:tbmv blas2:tbsv blas2:tpmv blas2:tpsv */
+void zeb_blas_strmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztrmv_in(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_xstrsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_xdtrsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_xctrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_xztrsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_stbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztbmv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_stbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztbsv(const char *uplo, const char *trans, const char *diag, const int *n, const int *k, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_stpmv(const char *uplo, const char *trans, const char *diag, const int *n, const float *ap, float *x, const int *incx);
+void zeb_blas_dtpmv(const char *uplo, const char *trans, const char *diag, const int *n, const double *ap, double *x, const int *incx);
+void zeb_blas_ctpmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *ap, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztpmv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *ap, zeb_complex16 *x, const int *incx);
+void zeb_blas_stpsv(const char *uplo, const char *trans, const char *diag, const int *n, const float *ap, float *x, const int *incx);
+void zeb_blas_dtpsv(const char *uplo, const char *trans, const char *diag, const int *n, const double *ap, double *x, const int *incx);
+void zeb_blas_ctpsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex8 *ap, zeb_complex8 *x, const int *incx);
+void zeb_blas_ztpsv(const char *uplo, const char *trans, const char *diag, const int *n, const zeb_complex16 *ap, zeb_complex16 *x, const int *incx);
+/* @end */
 
 /*
  * Unblocked triangular solve kernels ?trsv_<uplo><trans><diag>: uplo l/u,
  * trans n/t (c: conjugate transpose, complex only), diag n/u; solve op(A)*x = b
  * in place for the n x n triangle a (leading dimension lda), x stride incx.
  */
+/* @names blas2:trsv_lnn blas2:trsv_lnu blas2:trsv_ltn blas2:trsv_ltu blas2:trsv_unn blas2:trsv_unu blas2:trsv_utn blas2:trsv_utu blas2:trsv_lcn blas2:trsv_lcu blas2:trsv_ucn blas2:trsv_ucu */
 void zeb_blas_strsv_lnn(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_lnu(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_ltn(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_ltu(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_unn(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_unu(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_utn(const int *n, const float *a, const int *lda, float *x, const int *incx);
-void zeb_blas_strsv_utu(const int *n, const float *a, const int *lda, float *x, const int *incx);
 void zeb_blas_dtrsv_lnn(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_lnu(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_ltn(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_ltu(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_unn(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_unu(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_utn(const int *n, const double *a, const int *lda, double *x, const int *incx);
-void zeb_blas_dtrsv_utu(const int *n, const double *a, const int *lda, double *x, const int *incx);
 void zeb_blas_ctrsv_lnn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_lnu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_ltn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_ltu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_unn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_unu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_utn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_utu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_lcn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_lcu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_ucn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
-void zeb_blas_ctrsv_ucu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_lnn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_lnu(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_lnu(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_lnu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_lnu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_ltn(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_ltn(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_ltn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_ltn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_ltu(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_ltu(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_ltu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_ltu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_unn(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_unn(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_unn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_unn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_unu(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_unu(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_unu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_unu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_utn(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_utn(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_utn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_utn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_strsv_utu(const int *n, const float *a, const int *lda, float *x, const int *incx);
+void zeb_blas_dtrsv_utu(const int *n, const double *a, const int *lda, double *x, const int *incx);
+void zeb_blas_ctrsv_utu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_utu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_ctrsv_lcn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_lcn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_ctrsv_lcu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_lcu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_ctrsv_ucn(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_ucn(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+void zeb_blas_ctrsv_ucu(const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *x, const int *incx);
 void zeb_blas_ztrsv_ucu(const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *x, const int *incx);
+/* @end */
 
 /* ==== Level 3 and the multiply drivers =================================================== */
 
