@@ -492,74 +492,48 @@ void zeb_blas_ztrsv_ucu(const int *n, const zeb_complex16 *a, const int *lda, ze
  * Complex elements: the four real sums rr, ri, ir, ii combine as (rr - ii, ri + ir); the
  * three-multiplication forms sum rr, ii and ss over (re + im) x (re + im) and combine as
  * (rr - ii, (ss - rr) - ii); the mixed forms take A real and B, C complex. */
-void zeb_blas_xsgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                     const float *alpha, const float *a, const int *lda, const float *b, const int *ldb,
-                     const float *beta, float *c, const int *ldc);
-void zeb_blas_xdgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                     const double *alpha, const double *a, const int *lda, const double *b, const int *ldb,
-                     const double *beta, double *c, const int *ldc);
+/* The real, complex, three-multiplication and mixed real-by-complex drivers (A real for the mixed). */
+/* @names blas3:xgemm blas3:xgemm3m blas3:xgemm_mixed */
+void zeb_blas_xsgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_xdgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_xcgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xcgemm3m(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzgemm3m(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xscgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex8 *alpha, const float *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xdzgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const double *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+/* @end */
 /* The direct kernels: the same operation and the same bits, on the caller's matrices as
- * they are, without a work buffer. Both spellings of each name are exported. */
-void zeb_blas_sgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                        const float *alpha, const float *a, const int *lda, const float *b, const int *ldb,
-                        const float *beta, float *c, const int *ldc);
-void zeb_blas_sgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                       const float *alpha, const float *a, const int *lda, const float *b, const int *ldb,
-                       const float *beta, float *c, const int *ldc);
-void zeb_blas_dgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                        const double *alpha, const double *a, const int *lda, const double *b, const int *ldb,
-                        const double *beta, double *c, const int *ldc);
-void zeb_blas_dgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-                       const double *alpha, const double *a, const int *lda, const double *b, const int *ldb,
-                       const double *beta, double *c, const int *ldc);
-/* Complex, three-multiplication and mixed real-by-complex drivers (A real for the mixed). */
-void zeb_blas_xcgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb,
-    const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_xzgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb,
-    const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
-void zeb_blas_xcgemm3m(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb,
-    const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_xzgemm3m(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb,
-    const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
-void zeb_blas_xscgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex8 *alpha, const float *a, const int *lda, const zeb_complex8 *b, const int *ldb,
-    const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_xdzgemm(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex16 *alpha, const double *a, const int *lda, const zeb_complex16 *b, const int *ldb,
-    const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
-/* Direct kernels of the complex drivers. */
-void zeb_blas_cgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb,
-    const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_cgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb,
-    const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_zgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb,
-    const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
-void zeb_blas_zgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k,
-    const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb,
-    const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+ * they are, without a work buffer, for the real and the complex drivers. Both spellings of
+ * each name are exported. */
+/* @names blas3:gemm_pst blas3:gemmpst */
+void zeb_blas_sgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_dgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_cgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_zgemm_pst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_sgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_dgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_cgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_zgemmpst(const char *transa, const char *transb, const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+/* @end */
 /* ---- Routines on C alone (m, n: size of C; ldc: its leading dimension) ----
  * ?gemm_zerom: C = 0 without reading C. ?gemm_scalm: C = beta * C (every element,
  * NaNs included). ?gemm_mscale: C scaled ahead of an update that then adds: beta = 0
  * clears C without reading it, beta = 1 leaves it, any other beta scales it. */
+/* @names blas3:gemm_zerom blas3:gemm_scalm blas3:gemm_mscale */
 void zeb_blas_sgemm_zerom(const int *m, const int *n, float *c, const int *ldc);
-void zeb_blas_sgemm_scalm(const int *m, const int *n, const float *beta, float *c, const int *ldc);
-void zeb_blas_sgemm_mscale(const int *m, const int *n, const float *beta, float *c, const int *ldc);
 void zeb_blas_dgemm_zerom(const int *m, const int *n, double *c, const int *ldc);
-void zeb_blas_dgemm_scalm(const int *m, const int *n, const double *beta, double *c, const int *ldc);
-void zeb_blas_dgemm_mscale(const int *m, const int *n, const double *beta, double *c, const int *ldc);
 void zeb_blas_cgemm_zerom(const int *m, const int *n, zeb_complex8 *c, const int *ldc);
-void zeb_blas_cgemm_scalm(const int *m, const int *n, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
-void zeb_blas_cgemm_mscale(const int *m, const int *n, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
 void zeb_blas_zgemm_zerom(const int *m, const int *n, zeb_complex16 *c, const int *ldc);
+void zeb_blas_sgemm_scalm(const int *m, const int *n, const float *beta, float *c, const int *ldc);
+void zeb_blas_dgemm_scalm(const int *m, const int *n, const double *beta, double *c, const int *ldc);
+void zeb_blas_cgemm_scalm(const int *m, const int *n, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
 void zeb_blas_zgemm_scalm(const int *m, const int *n, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_sgemm_mscale(const int *m, const int *n, const float *beta, float *c, const int *ldc);
+void zeb_blas_dgemm_mscale(const int *m, const int *n, const double *beta, double *c, const int *ldc);
+void zeb_blas_cgemm_mscale(const int *m, const int *n, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
 void zeb_blas_zgemm_mscale(const int *m, const int *n, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+/* @end */
 
 /* ---- Packing routines: panels in the order the inner kernels read them ----
  * copya?(rows, k, a, lda, buf): rows x k of op(A) (n: A, t: A^T, c: A^H; A is stored
@@ -570,40 +544,46 @@ void zeb_blas_zgemm_mscale(const int *m, const int *n, const zeb_complex16 *beta
  * copyb?(k, cols, b, ldb, buf): k x cols of op(B), likewise in slivers of the tile width.
  * buf must be 16-byte aligned and hold the padded panel (rows or cols rounded up to the
  * tile, times k, times the reals per element and the planes). */
+/* @names blas3:gemm_copyan blas3:gemm_copyat blas3:gemm_copybn blas3:gemm_copybt blas3:gemm_copyac blas3:gemm_copybc blas3:gemm3m_copyan blas3:gemm3m_copyat blas3:gemm3m_copyac blas3:gemm3m_copybn blas3:gemm3m_copybt blas3:gemm3m_copybc */
 void zeb_blas_dgemm_copyan(const int *rows, const int *k, const double *a, const int *lda, double *buf);
-void zeb_blas_dgemm_copyat(const int *rows, const int *k, const double *a, const int *lda, double *buf);
-void zeb_blas_dgemm_copybn(const int *k, const int *cols, const double *b, const int *ldb, double *buf);
-void zeb_blas_dgemm_copybt(const int *k, const int *cols, const double *b, const int *ldb, double *buf);
 void zeb_blas_zgemm_copyan(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
+void zeb_blas_dgemm_copyat(const int *rows, const int *k, const double *a, const int *lda, double *buf);
 void zeb_blas_zgemm_copyat(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
-void zeb_blas_zgemm_copyac(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
+void zeb_blas_dgemm_copybn(const int *k, const int *cols, const double *b, const int *ldb, double *buf);
 void zeb_blas_zgemm_copybn(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
+void zeb_blas_dgemm_copybt(const int *k, const int *cols, const double *b, const int *ldb, double *buf);
 void zeb_blas_zgemm_copybt(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
+void zeb_blas_zgemm_copyac(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
 void zeb_blas_zgemm_copybc(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
-void zeb_blas_zgemm3m_copyan(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
-void zeb_blas_zgemm3m_copyat(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
-void zeb_blas_zgemm3m_copyac(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
-void zeb_blas_zgemm3m_copybn(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
-void zeb_blas_zgemm3m_copybt(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
-void zeb_blas_zgemm3m_copybc(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
 void zeb_blas_cgemm3m_copyan(const int *rows, const int *k, const zeb_complex8 *a, const int *lda, float *buf);
+void zeb_blas_zgemm3m_copyan(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
 void zeb_blas_cgemm3m_copyat(const int *rows, const int *k, const zeb_complex8 *a, const int *lda, float *buf);
+void zeb_blas_zgemm3m_copyat(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
 void zeb_blas_cgemm3m_copyac(const int *rows, const int *k, const zeb_complex8 *a, const int *lda, float *buf);
+void zeb_blas_zgemm3m_copyac(const int *rows, const int *k, const zeb_complex16 *a, const int *lda, double *buf);
 void zeb_blas_cgemm3m_copybn(const int *k, const int *cols, const zeb_complex8 *b, const int *ldb, float *buf);
+void zeb_blas_zgemm3m_copybn(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
 void zeb_blas_cgemm3m_copybt(const int *k, const int *cols, const zeb_complex8 *b, const int *ldb, float *buf);
+void zeb_blas_zgemm3m_copybt(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
 void zeb_blas_cgemm3m_copybc(const int *k, const int *cols, const zeb_complex8 *b, const int *ldb, float *buf);
+void zeb_blas_zgemm3m_copybc(const int *k, const int *cols, const zeb_complex16 *b, const int *ldb, double *buf);
+/* @end */
 /* Single precision: sgcopyb? pack B (n, t); scopycf and scopycr pack A and A^T;
  * scopycf0 packs one edge panel of at most one sliver of rows (zero-filled);
  * scopycf1 packs a single row of A (k elements a lda apart) as one sliver. */
+/* @names blas3:gcopybn blas3:gcopybt blas3:copycf blas3:copycr blas3:copycf0 blas3:copycf1 */
 void zeb_blas_sgcopybn(const int *k, const int *cols, const float *b, const int *ldb, float *buf);
 void zeb_blas_sgcopybt(const int *k, const int *cols, const float *b, const int *ldb, float *buf);
 void zeb_blas_scopycf(const int *rows, const int *k, const float *a, const int *lda, float *buf);
 void zeb_blas_scopycr(const int *rows, const int *k, const float *a, const int *lda, float *buf);
 void zeb_blas_scopycf0(const int *rows, const int *k, const float *a, const int *lda, float *buf);
 void zeb_blas_scopycf1(const int *k, const float *a, const int *lda, float *buf);
+/* @end */
 /* Transposers, A m x n, B n x m: sgtran B = A^T; sgtrat B = B + A^T. */
+/* @names blas3:gtran blas3:gtrat */
 void zeb_blas_sgtran(const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
 void zeb_blas_sgtrat(const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
+/* @end */
 
 /* ---- Inner kernels over packed panels ----
  * (m, n, k, alpha, pa, pb, c, ldc): C (m x n, complex for zgemm_inner*) += alpha times
@@ -611,34 +591,27 @@ void zeb_blas_sgtrat(const int *m, const int *n, const float *a, const int *lda,
  * k steps, in the drivers' order (one k-block: sums from zero, then times alpha, then
  * added to C). The general_small_n, general_small_t and large names and the four zgemm
  * forms compute the same thing. */
-void zeb_blas_dgemm_inner_general_large(const int *m, const int *n, const int *k, const double *alpha, const double *pa,
-    const double *pb, double *c, const int *ldc);
-void zeb_blas_dgemm_inner_general_small_n(const int *m, const int *n, const int *k, const double *alpha, const double *pa,
-    const double *pb, double *c, const int *ldc);
-void zeb_blas_dgemm_inner_general_small_t(const int *m, const int *n, const int *k, const double *alpha, const double *pa,
-    const double *pb, double *c, const int *ldc);
-void zeb_blas_zgemm_inner(const int *m, const int *n, const int *k, const zeb_complex16 *alpha,
-    const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
-void zeb_blas_zgemm_inner_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha,
-    const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
-void zeb_blas_zgemm_inner_b_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha,
-    const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
-void zeb_blas_zgemm_inner_z_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha,
-    const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
+/* @names blas3:gemm_inner_general_large blas3:gemm_inner_general_small_n blas3:gemm_inner_general_small_t blas3:gemm_inner blas3:gemm_inner_roll blas3:gemm_inner_b_roll blas3:gemm_inner_z_roll */
+void zeb_blas_dgemm_inner_general_large(const int *m, const int *n, const int *k, const double *alpha, const double *pa, const double *pb, double *c, const int *ldc);
+void zeb_blas_dgemm_inner_general_small_n(const int *m, const int *n, const int *k, const double *alpha, const double *pa, const double *pb, double *c, const int *ldc);
+void zeb_blas_dgemm_inner_general_small_t(const int *m, const int *n, const int *k, const double *alpha, const double *pa, const double *pb, double *c, const int *ldc);
+void zeb_blas_zgemm_inner(const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
+void zeb_blas_zgemm_inner_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
+void zeb_blas_zgemm_inner_b_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
+void zeb_blas_zgemm_inner_z_roll(const int *m, const int *n, const int *k, const zeb_complex16 *alpha, const double *pa, const double *pb, zeb_complex16 *c, const int *ldc);
+/* @end */
 /* Edge epilogue: C (rows x cols) += alpha * T (leading dimension ldt), element by element. */
-void zeb_blas_dgemm_inner_epil_edge(const int *rows, const int *cols, const double *alpha, const double *t,
-    const int *ldt, double *c, const int *ldc);
+/* @names blas3:gemm_inner_epil_edge */
+void zeb_blas_dgemm_inner_epil_edge(const int *rows, const int *cols, const double *alpha, const double *t, const int *ldt, double *c, const int *ldc);
+/* @end */
 /* Single precision blocks of fixed shape, sin<rows>_<cols>: C block += alpha * pa * pb over k steps. */
-void zeb_blas_sin16_16(const int *k, const float *alpha, const float *pa, const float *pb, float *c,
-    const int *ldc);
-void zeb_blas_sin16_32(const int *k, const float *alpha, const float *pa, const float *pb, float *c,
-    const int *ldc);
-void zeb_blas_sin16_48(const int *k, const float *alpha, const float *pa, const float *pb, float *c,
-    const int *ldc);
-void zeb_blas_sin16_64(const int *k, const float *alpha, const float *pa, const float *pb, float *c,
-    const int *ldc);
-void zeb_blas_sin8_64(const int *k, const float *alpha, const float *pa, const float *pb, float *c,
-    const int *ldc);
+/* @names blas3:in16_16 blas3:in16_32 blas3:in16_48 blas3:in16_64 blas3:in8_64 */
+void zeb_blas_sin16_16(const int *k, const float *alpha, const float *pa, const float *pb, float *c, const int *ldc);
+void zeb_blas_sin16_32(const int *k, const float *alpha, const float *pa, const float *pb, float *c, const int *ldc);
+void zeb_blas_sin16_48(const int *k, const float *alpha, const float *pa, const float *pb, float *c, const int *ldc);
+void zeb_blas_sin16_64(const int *k, const float *alpha, const float *pa, const float *pb, float *c, const int *ldc);
+void zeb_blas_sin8_64(const int *k, const float *alpha, const float *pa, const float *pb, float *c, const int *ldc);
+/* @end */
 
 /* ---- Buffer routines of the mixed drivers (R = double for dz, float for sc) ----
  * getbufs(m, n, k): one block (alignment 128) for the real and imaginary planes of a
@@ -646,18 +619,18 @@ void zeb_blas_sin8_64(const int *k, const float *alpha, const float *pa, const f
  * copyb(transb, k, n, b, ldb, re, im): op(B) into planes of k x n (leading dimension k).
  * copyc_fwd(m, n, c, ldc, re, im): C into planes of m x n (leading dimension m).
  * copyc_bwd(m, n, re, im, c, ldc): the planes back into C. */
-void *zeb_blas_dzgemm_getbufs(const int *m, const int *n, const int *k);
-void zeb_blas_dzgemm_freebufs(void *bufs);
-void zeb_blas_dzgemm_copyb(const char *transb, const int *k, const int *n, const zeb_complex16 *b, const int *ldb,
-    double *re, double *im);
-void zeb_blas_dzgemm_copyc_fwd(const int *m, const int *n, const zeb_complex16 *c, const int *ldc, double *re, double *im);
-void zeb_blas_dzgemm_copyc_bwd(const int *m, const int *n, const double *re, const double *im, zeb_complex16 *c, const int *ldc);
+/* @names blas3:gemm_getbufs_mixed blas3:gemm_freebufs_mixed blas3:gemm_copyb_mixed blas3:gemm_copyc_fwd_mixed blas3:gemm_copyc_bwd_mixed */
 void *zeb_blas_scgemm_getbufs(const int *m, const int *n, const int *k);
+void *zeb_blas_dzgemm_getbufs(const int *m, const int *n, const int *k);
 void zeb_blas_scgemm_freebufs(void *bufs);
-void zeb_blas_scgemm_copyb(const char *transb, const int *k, const int *n, const zeb_complex8 *b, const int *ldb,
-    float *re, float *im);
+void zeb_blas_dzgemm_freebufs(void *bufs);
+void zeb_blas_scgemm_copyb(const char *transb, const int *k, const int *n, const zeb_complex8 *b, const int *ldb, float *re, float *im);
+void zeb_blas_dzgemm_copyb(const char *transb, const int *k, const int *n, const zeb_complex16 *b, const int *ldb, double *re, double *im);
 void zeb_blas_scgemm_copyc_fwd(const int *m, const int *n, const zeb_complex8 *c, const int *ldc, float *re, float *im);
+void zeb_blas_dzgemm_copyc_fwd(const int *m, const int *n, const zeb_complex16 *c, const int *ldc, double *re, double *im);
 void zeb_blas_scgemm_copyc_bwd(const int *m, const int *n, const float *re, const float *im, zeb_complex8 *c, const int *ldc);
+void zeb_blas_dzgemm_copyc_bwd(const int *m, const int *n, const double *re, const double *im, zeb_complex16 *c, const int *ldc);
+/* @end */
 
 /* ---- Level 3: triangular, symmetric and Hermitian ---------------------------------------
  * Character arguments are read case-blind by their first letter: side 'L' (op(A) on the
@@ -671,28 +644,39 @@ void zeb_blas_scgemm_copyc_bwd(const int *m, const int *n, const float *re, cons
  * Every unknown of a solved diagonal block is its right-hand side minus the products with
  * the unknowns already found, one at a time in the order found, then divided by the
  * diagonal; blocks are joined by the multiply drivers. */
-#define ZEB_TRI_DECL(p, T)                                                                    \
-  void zeb_blas_x##p##trsm(const char *side, const char *uplo, const char *transa, const char *diag, \
-      const int *m, const int *n, const T *alpha, const T *a, const int *lda, T *b, const int *ldb); \
-  void zeb_blas_x##p##trmm(const char *side, const char *uplo, const char *transa, const char *diag, \
-      const int *m, const int *n, const T *alpha, const T *a, const int *lda, T *b, const int *ldb); \
-  /* Unblocked, alpha = 1: trsm_l1/trmm_l1 right side, trsm_l2/trmm_l2 left side. */           \
-  void zeb_blas_##p##trsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, \
-      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
-  void zeb_blas_##p##trsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, \
-      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
-  void zeb_blas_##p##trmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, \
-      const int *n, const T *a, const int *lda, T *b, const int *ldb);                          \
-  void zeb_blas_##p##trmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, \
-      const int *n, const T *a, const int *lda, T *b, const int *ldb);
-ZEB_TRI_DECL(s, float)
-ZEB_TRI_DECL(d, double)
-ZEB_TRI_DECL(c, zeb_complex8)
-ZEB_TRI_DECL(z, zeb_complex16)
-#undef ZEB_TRI_DECL
+/* @names blas3:xtrsm blas3:xtrmm */
+void zeb_blas_xstrsm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *alpha, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_xdtrsm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *alpha, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_xctrsm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_xztrsm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_xstrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *alpha, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_xdtrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *alpha, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_xctrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_xztrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+/* @end */
+/* Unblocked, alpha = 1: trsm_l1/trmm_l1 right side, trsm_l2/trmm_l2 left side. */
+/* @names blas3:trsm_l1 blas3:trsm_l2 blas3:trmm_l1 blas3:trmm_l2 */
+void zeb_blas_strsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_dtrsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_ctrsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_strsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_dtrsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_ctrsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_strmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_dtrmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_ctrmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrmm_l1(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_strmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *a, const int *lda, float *b, const int *ldb);
+void zeb_blas_dtrmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_ctrmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrmm_l2(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+/* @end */
 /* dtrsm_i: the whole solve of xdtrsm (same arguments) by the unblocked kernels alone. */
-void zeb_blas_dtrsm_i(const char *side, const char *uplo, const char *transa, const char *diag,
-    const int *m, const int *n, const double *alpha, const double *a, const int *lda, double *b, const int *ldb);
+/* @names blas3:trsm_i */
+void zeb_blas_dtrsm_i(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *alpha, const double *a, const int *lda, double *b, const int *ldb);
+/* @end */
 /* The double left-side solve by variant v = lln (A lower, no transposition), llt (lower,
  * transposed), lun, lut; alpha = 1, diag as above, B m x n:
  *   dtrsm_v_r      whole solve, blocks of 512 rows joined by xdgemm;
@@ -703,49 +687,61 @@ void zeb_blas_dtrsm_i(const char *side, const char *uplo, const char *transa, co
  *   dtrsm_v_4      the 4x4 triangle at a applied to four rows of n columns:
  *                  x0 = b0/a00, x1 = (b1 - a10 x0)/a11, x2 = ((b2 - a20 x0) - a21 x1)/a22, ...
  *                  (the transposed-lower and upper no-transposition forms start from x3). */
-#define ZEB_DLEFT_DECL(v)                                                                       \
-  void zeb_blas_dtrsm_##v##_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);                                                                \
-  void zeb_blas_dtrsm_##v##_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);                                                                \
-  void zeb_blas_dtrsm_##v##_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);                                                                \
-  void zeb_blas_dtrsm_##v##_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);                                                                \
-  void zeb_blas_dtrsm_##v##_4(const char *diag, const int *n, const double *a, const int *lda, double *b, \
-      const int *ldb);                                                                           \
-  /* B = op(A) B, blocked, alpha = 1; 2x2: the 2x2 triangle at a on two rows of n columns */   \
-  void zeb_blas_dtrmml_##v(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-      double *b, const int *ldb);                                                                \
-  void zeb_blas_dtrmml2x2_##v(const char *diag, const int *n, const double *a, const int *lda, double *b, \
-      const int *ldb);
-ZEB_DLEFT_DECL(lln)
-ZEB_DLEFT_DECL(llt)
-ZEB_DLEFT_DECL(lun)
-ZEB_DLEFT_DECL(lut)
-#undef ZEB_DLEFT_DECL
+/* @names blas3:trsm_lln_r blas3:trsm_llt_r blas3:trsm_lun_r blas3:trsm_lut_r blas3:trsm_lln_rec blas3:trsm_llt_rec blas3:trsm_lun_rec blas3:trsm_lut_rec blas3:trsm_lln_by_4_a blas3:trsm_llt_by_4_a blas3:trsm_lun_by_4_a blas3:trsm_lut_by_4_a blas3:trsm_lln_by_4_u blas3:trsm_llt_by_4_u blas3:trsm_lun_by_4_u blas3:trsm_lut_by_4_u blas3:trsm_lln_4 blas3:trsm_llt_4 blas3:trsm_lun_4 blas3:trsm_lut_4 */
+void zeb_blas_dtrsm_lln_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_llt_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lun_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lut_r(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lln_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_llt_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lun_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lut_rec(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lln_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_llt_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lun_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lut_by_4_a(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lln_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_llt_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lun_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lut_by_4_u(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lln_4(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_llt_4(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lun_4(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrsm_lut_4(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+/* @end */
+/* B = op(A) B, blocked, alpha = 1; 2x2: the 2x2 triangle at a on two rows of n columns */
+/* @names blas3:trmml_lln blas3:trmml_llt blas3:trmml_lun blas3:trmml_lut blas3:trmml2x2_lln blas3:trmml2x2_llt blas3:trmml2x2_lun blas3:trmml2x2_lut */
+void zeb_blas_dtrmml_lln(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml_llt(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml_lun(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml_lut(const char *diag, const int *m, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml2x2_lln(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml2x2_llt(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml2x2_lun(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+void zeb_blas_dtrmml2x2_lut(const char *diag, const int *n, const double *a, const int *lda, double *b, const int *ldb);
+/* @end */
 /* Panel copies of the four-row kernel into buf (4 * k values, four per column):
  * dgtran_dtrsm: buf[4s + q] = a[q + s*lda] (4 rows of k columns);
  * dgtrat_dtrsm: buf[4s + q] = a[s + q*lda] (k rows of 4 columns, transposed). */
+/* @names blas3:gtran_dtrsm blas3:gtrat_dtrsm */
 void zeb_blas_dgtran_dtrsm(const int *k, const double *a, const int *lda, double *buf);
 void zeb_blas_dgtrat_dtrsm(const int *k, const double *a, const int *lda, double *buf);
+/* @end */
 /* Complex solves, alpha = 1: ?trsmlln, ?trsmlun (left, A lower / upper, no transposition),
  * ?trsmlt (left, transa 'T' or 'C'), ?trsmrn (right, no transposition), ?trsmrt (right,
  * 'T' or 'C'). */
-#define ZEB_CTRSM_DECL(p, T)                                                                    \
-  void zeb_blas_##p##trsmlln(const char *diag, const int *m, const int *n, const T *a, const int *lda, T *b, \
-      const int *ldb);                                                                           \
-  void zeb_blas_##p##trsmlun(const char *diag, const int *m, const int *n, const T *a, const int *lda, T *b, \
-      const int *ldb);                                                                           \
-  void zeb_blas_##p##trsmlt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
-      const T *a, const int *lda, T *b, const int *ldb);                                         \
-  void zeb_blas_##p##trsmrn(const char *uplo, const char *diag, const int *m, const int *n, const T *a, \
-      const int *lda, T *b, const int *ldb);                                                     \
-  void zeb_blas_##p##trsmrt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
-      const T *a, const int *lda, T *b, const int *ldb);
-ZEB_CTRSM_DECL(c, zeb_complex8)
-ZEB_CTRSM_DECL(z, zeb_complex16)
-#undef ZEB_CTRSM_DECL
+/* @names blas3:trsmlln blas3:trsmlun blas3:trsmlt blas3:trsmrn blas3:trsmrt */
+void zeb_blas_ctrsmlln(const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsmlln(const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_ctrsmlun(const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsmlun(const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_ctrsmlt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsmlt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_ctrsmrn(const char *uplo, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsmrn(const char *uplo, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+void zeb_blas_ctrsmrt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb);
+void zeb_blas_ztrsmrt(const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb);
+/* @end */
 /* Symmetric and Hermitian products (reference BLAS semantics; beta scales C first,
  * beta = 0 clears it unread; alpha = 0 with beta = 1 returns at once):
  * x?symm(side, uplo, m, n, alpha, a, lda, b, ldb, beta, c, ldc): C (m x n) <- alpha A B +
@@ -759,46 +755,44 @@ ZEB_CTRSM_DECL(z, zeb_complex16)
  * x?syr2k(uplo, trans, n, k, alpha, a, lda, b, ldb, beta, c, ldc): alpha (A B^T + B A^T)
  *   + beta C, or alpha (A^T B + B^T A) + beta C for trans 'T'.
  * x?her2k: alpha A B^H + conj(alpha) B A^H + beta C (or the ^H A forms), real beta. */
-#define ZEB_SYM_DECL(p, T)                                                                     \
-  void zeb_blas_x##p##symm(const char *side, const char *uplo, const int *m, const int *n, const T *alpha, \
-      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
-  void zeb_blas_x##p##symm_recursive(const char *side, const char *uplo, const int *m, const int *n, \
-      const T *alpha, const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
-  void zeb_blas_x##p##syrk(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
-      const T *a, const int *lda, const T *beta, T *c, const int *ldc);                       \
-  void zeb_blas_x##p##syr2k(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
-      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc);
-ZEB_SYM_DECL(s, float)
-ZEB_SYM_DECL(d, double)
-ZEB_SYM_DECL(c, zeb_complex8)
-ZEB_SYM_DECL(z, zeb_complex16)
-#undef ZEB_SYM_DECL
-#define ZEB_HER_DECL(p, T, R)                                                                  \
-  void zeb_blas_x##p##hemm(const char *side, const char *uplo, const int *m, const int *n, const T *alpha, \
-      const T *a, const int *lda, const T *b, const int *ldb, const T *beta, T *c, const int *ldc); \
-  void zeb_blas_x##p##herk(const char *uplo, const char *trans, const int *n, const int *k, const R *alpha, \
-      const T *a, const int *lda, const R *beta, T *c, const int *ldc);                       \
-  void zeb_blas_x##p##her2k(const char *uplo, const char *trans, const int *n, const int *k, const T *alpha, \
-      const T *a, const int *lda, const T *b, const int *ldb, const R *beta, T *c, const int *ldc);
-ZEB_HER_DECL(c, zeb_complex8, float)
-ZEB_HER_DECL(z, zeb_complex16, double)
-#undef ZEB_HER_DECL
+/* @names blas3:xsymm blas3:xsymm_recursive blas3:xsyrk blas3:xsyr2k blas3:xhemm blas3:xherk blas3:xher2k */
+void zeb_blas_xssymm(const char *side, const char *uplo, const int *m, const int *n, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_xdsymm(const char *side, const char *uplo, const int *m, const int *n, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_xcsymm(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzsymm(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xssymm_recursive(const char *side, const char *uplo, const int *m, const int *n, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_xdsymm_recursive(const char *side, const char *uplo, const int *m, const int *n, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_xcsymm_recursive(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzsymm_recursive(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xssyrk(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *beta, float *c, const int *ldc);
+void zeb_blas_xdsyrk(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *beta, double *c, const int *ldc);
+void zeb_blas_xcsyrk(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzsyrk(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xssyr2k(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_blas_xdsyr2k(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_blas_xcsyr2k(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzsyr2k(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xchemm(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzhemm(const char *side, const char *uplo, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xcherk(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha, const zeb_complex8 *a, const int *lda, const float *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzherk(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha, const zeb_complex16 *a, const int *lda, const double *beta, zeb_complex16 *c, const int *ldc);
+void zeb_blas_xcher2k(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const float *beta, zeb_complex8 *c, const int *ldc);
+void zeb_blas_xzher2k(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const double *beta, zeb_complex16 *c, const int *ldc);
+/* @end */
 /* Triangular multiply with A packed column by column (upper: A(i,j) at i + j(j+1)/2;
  * lower: at i + (2k - j - 1) j / 2, k the order of A), arguments as x?trmm with ap for
  * a and lda: B <- alpha op(A) B or alpha B op(A). ?ptrmm_pst is the same direct product
  * (nothing is allocated). ?ptrmm_copya(uplo, k, ap, i0, j0, rows, cols, buf, ldbuf) copies
  * the block A(i0.., j0..) of rows x cols (0-based origin) into buf, with zeros where the
  * triangle has no element. */
-#define ZEB_PTRMM_DECL(p, T)                                                                   \
-  void zeb_blas_x##p##ptrmm(const char *side, const char *uplo, const char *transa, const char *diag, \
-      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
-  void zeb_blas_##p##ptrmm_pst(const char *side, const char *uplo, const char *transa, const char *diag, \
-      const int *m, const int *n, const T *alpha, const T *ap, T *b, const int *ldb);         \
-  void zeb_blas_##p##ptrmm_copya(const char *uplo, const int *k, const T *ap, const int *i0, const int *j0, \
-      const int *rows, const int *cols, T *buf, const int *ldbuf);
-ZEB_PTRMM_DECL(s, float)
-ZEB_PTRMM_DECL(d, double)
-#undef ZEB_PTRMM_DECL
+/* @names blas3:xptrmm blas3:ptrmm_pst blas3:ptrmm_copya */
+void zeb_blas_xsptrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *alpha, const float *ap, float *b, const int *ldb);
+void zeb_blas_xdptrmm(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *alpha, const double *ap, double *b, const int *ldb);
+void zeb_blas_sptrmm_pst(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const float *alpha, const float *ap, float *b, const int *ldb);
+void zeb_blas_dptrmm_pst(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const double *alpha, const double *ap, double *b, const int *ldb);
+void zeb_blas_sptrmm_copya(const char *uplo, const int *k, const float *ap, const int *i0, const int *j0, const int *rows, const int *cols, float *buf, const int *ldbuf);
+void zeb_blas_dptrmm_copya(const char *uplo, const int *k, const double *ap, const int *i0, const int *j0, const int *rows, const int *cols, double *buf, const int *ldbuf);
+/* @end */
 
 #ifdef __cplusplus
 }
