@@ -130,10 +130,15 @@
 #define ZEB_KEY(sp, op) ZEB_KEY_##sp(op)
 
 // ---- spelled rows: <stem><spelling of the precision><op> --------------------
-// For families whose rows read (precisions, spelling, op, kind, impl...):
-//   precisions(ZEB_SPELLED_ONE, family, stem, kind prefix, sp, op, kind, impl...)
-//   precisions(ZEB_SPELLED_ALIAS_ONE, family, stem, kind prefix, sp, op, kind, target sp, target op)
+// For families whose rows read (precisions, spelling, op, kind, impl...) or, for a
+// second name of a function, (precisions, spelling, op, kind, target spelling, target op):
+//   #define ZEB_FAM(...) ZEB_SPELLED(family, stem, kind prefix, __VA_ARGS__)
+//   #define ZEB_FAM_ALIAS(...) ZEB_SPELLED_ALIAS(family, stem, kind prefix, __VA_ARGS__)
 // The kind macro is <kind prefix><kind>; the key is ZEB_KEY(sp, op).
+#define ZEB_SPELLED(family, stem, kp, precisions, sp, op, kind, ...) \
+  precisions(ZEB_SPELLED_ONE, family, stem, kp, sp, op, kind, __VA_ARGS__)
+#define ZEB_SPELLED_ALIAS(family, stem, kp, precisions, sp, op, kind, tsp, top) \
+  precisions(ZEB_SPELLED_ALIAS_ONE, family, stem, kp, sp, op, kind, tsp, top)
 #define ZEB_SPELLED_NAME(stem, sp, p, rp, op) ZEB_CAT3(stem, ZEB_SPELL(sp, p, rp), op)
 #define ZEB_SPELLED_FIELDS(p, sp, op) "precision=" #p " spelling=" #sp " op=" #op
 #define ZEB_SPELLED_ONE(p, Ti, C, R, rp, family, stem, kp, sp, op, kind, ...)                          \

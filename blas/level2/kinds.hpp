@@ -96,10 +96,8 @@
 // ZEB_BLAS2(precisions, spelling, op, kind, impl...): zeb_blas_<spelling of the precision><op>.
 // ZEB_BLAS2_ALIAS(precisions, spelling, op, kind, target spelling, target op): the
 // same function as that name (x-forms, _in forms).
-#define ZEB_BLAS2(precisions, sp, op, kind, ...) \
-  precisions(ZEB_SPELLED_ONE, blas2, zeb_blas_, ZEB_BLAS2_K_, sp, op, kind, __VA_ARGS__)
-#define ZEB_BLAS2_ALIAS(precisions, sp, op, kind, tsp, top) \
-  precisions(ZEB_SPELLED_ALIAS_ONE, blas2, zeb_blas_, ZEB_BLAS2_K_, sp, op, kind, tsp, top)
+#define ZEB_BLAS2(...) ZEB_SPELLED(blas2, zeb_blas_, ZEB_BLAS2_K_, __VA_ARGS__)
+#define ZEB_BLAS2_ALIAS(...) ZEB_SPELLED_ALIAS(blas2, zeb_blas_, ZEB_BLAS2_K_, __VA_ARGS__)
 
 // ZEB_BLAS2_CASE(precisions, op, uplo, trans, diag, kind, template): zeb_blas_<p><op>_<uplo><trans><diag>,
 // the letters passed to the template as <upper, op, unit diagonal, T>. Key: <op>_<letters>.

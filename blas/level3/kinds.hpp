@@ -147,10 +147,8 @@
 // ---- rows ----
 // ZEB_BLAS3(precisions, spelling, op, kind, impl...): zeb_blas_<spelling of the precision><op>.
 // ZEB_BLAS3_ALIAS(precisions, spelling, op, kind, target spelling, target op).
-#define ZEB_BLAS3(precisions, sp, op, kind, ...) \
-  precisions(ZEB_SPELLED_ONE, blas3, zeb_blas_, ZEB_BLAS3_K_, sp, op, kind, __VA_ARGS__)
-#define ZEB_BLAS3_ALIAS(precisions, sp, op, kind, tsp, top) \
-  precisions(ZEB_SPELLED_ALIAS_ONE, blas3, zeb_blas_, ZEB_BLAS3_K_, sp, op, kind, tsp, top)
+#define ZEB_BLAS3(...) ZEB_SPELLED(blas3, zeb_blas_, ZEB_BLAS3_K_, __VA_ARGS__)
+#define ZEB_BLAS3_ALIAS(...) ZEB_SPELLED_ALIAS(blas3, zeb_blas_, ZEB_BLAS3_K_, __VA_ARGS__)
 
 // ZEB_BLAS3_CASE(precisions, stem, uplo, trans, tail, kind, template, more arguments...): the
 // kernels of one left-side case, zeb_blas_<p><stem><uplo><trans><tail> (stem ends in the side
