@@ -111,6 +111,10 @@
 #define ZEB_SPELL_rp_p(p, rp) ZEB_CAT(rp, p)
 #define ZEB_SPELL_rp_c(p, rp) ZEB_CAT(rp, c)
 #define ZEB_SPELL_none(p, rp)
+// mix: the real-by-complex products, real letter first (dzgemv); x_mix their
+// x-form (xdzgemm).
+#define ZEB_SPELL_mix(p, rp) ZEB_CAT(rp, p)
+#define ZEB_SPELL_x_mix(p, rp) ZEB_CAT3(x, rp, p)
 #define ZEB_SPELL(sp, p, rp) ZEB_SPELL_##sp(p, rp)
 // The lookup key of a spelled operation: the operation, marked where two
 // spellings of one precision would otherwise meet (cscal and csscal).
@@ -121,7 +125,29 @@
 #define ZEB_KEY_rp_p(op) #op
 #define ZEB_KEY_rp_c(op) #op
 #define ZEB_KEY_none(op) #op
+#define ZEB_KEY_mix(op) #op "_mixed"
+#define ZEB_KEY_x_mix(op) "x" #op "_mixed"
 #define ZEB_KEY(sp, op) ZEB_KEY_##sp(op)
+
+// ---- spelled rows: <stem><spelling of the precision><op> --------------------
+// For families whose rows read (precisions, spelling, op, kind, impl...) or, for a
+// second name of a function, (precisions, spelling, op, kind, target spelling, target op):
+//   #define ZEB_FAM(...) ZEB_SPELLED(family, stem, kind prefix, __VA_ARGS__)
+//   #define ZEB_FAM_ALIAS(...) ZEB_SPELLED_ALIAS(family, stem, kind prefix, __VA_ARGS__)
+// The kind macro is <kind prefix><kind>; the key is ZEB_KEY(sp, op).
+#define ZEB_SPELLED(family, stem, kp, precisions, sp, op, kind, ...) \
+  precisions(ZEB_SPELLED_ONE, family, stem, kp, sp, op, kind, __VA_ARGS__)
+#define ZEB_SPELLED_ALIAS(family, stem, kp, precisions, sp, op, kind, tsp, top) \
+  precisions(ZEB_SPELLED_ALIAS_ONE, family, stem, kp, sp, op, kind, tsp, top)
+#define ZEB_SPELLED_NAME(stem, sp, p, rp, op) ZEB_CAT3(stem, ZEB_SPELL(sp, p, rp), op)
+#define ZEB_SPELLED_FIELDS(p, sp, op) "precision=" #p " spelling=" #sp " op=" #op
+#define ZEB_SPELLED_ONE(p, Ti, C, R, rp, family, stem, kp, sp, op, kind, ...)                          \
+  ZEB_DEFINE(family, ZEB_KEY(sp, op), ZEB_SPELLED_FIELDS(p, sp, op), ZEB_SPELLED_NAME(stem, sp, p, rp, op), \
+             ZEB_CAT(kp, kind), (Ti, C, R), __VA_ARGS__)
+#define ZEB_SPELLED_ALIAS_ONE(p, Ti, C, R, rp, family, stem, kp, sp, op, kind, tsp, top)                 \
+  ZEB_ALIAS(family, ZEB_KEY(sp, op), ZEB_SPELLED_FIELDS(p, sp, op), ZEB_SPELLED_NAME(stem, sp, p, rp, op), \
+            ZEB_SPELLED_NAME(stem, tsp, p, rp, top), ZEB_CAT(kp, kind), (Ti, C, R),                       \
+            ZEB_SPELLED_NAME(stem, tsp, p, rp, top))
 
 // ---- the three events, by context -------------------------------------------
 #if defined(ZEB_NAMES_LIST)

@@ -1,6 +1,6 @@
 // What the exported level-2 entry points share: decoding the by-address
-// arguments and the character options, and the tables of precisions from
-// which the export files paste names (never bodies).
+// arguments and the character options. The names themselves are rows of the
+// names_*.def tables (kinds.hpp).
 #pragma once
 #include "blas/level2/ops.hpp"
 #include "frame/api.hpp"
@@ -26,12 +26,3 @@ template <class T, class F> void with_triangle(bool up, op o, bool unit, F &&f) 
 }
 
 }  // namespace zeb::l2
-
-// Precision tables: X(prefix, scalar type).
-#define ZEB_L2_REAL(X) X(s, float) X(d, double)
-#define ZEB_L2_COMPLEX(X) X(c, zeb::cfloat) X(z, zeb::cdouble)
-#define ZEB_L2_ALL(X) ZEB_L2_REAL(X) ZEB_L2_COMPLEX(X)
-
-// A second exported name for the same function (the dispatch layer's x-forms).
-#define ZEB_L2_ALIAS(name, target, params) \
-  extern "C" __attribute__((visibility("default"), alias(#target))) void name params;

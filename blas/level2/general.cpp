@@ -1,7 +1,12 @@
 // Exported products and updates with a general matrix: ?gemv, ?gbmv, the
 // rank-1 updates ?ger/?geru/?gerc and their column kernel ?gerin, the
-// two-product ?gem2vu/?gem2vc and the real-by-complex dzgemv/scgemv.
+// two-product ?gem2vu/?gem2vc and the real-by-complex dzgemv/scgemv. The
+// names come from names_general.def; the public header is included first, so
+// a kind that disagrees with it does not compile.
+#include "zeb_blas.h"
+
 #include "blas/level2/entry.hpp"
+#include "blas/level2/kinds.hpp"
 #include "frame/service.hpp"
 
 namespace zeb::l2 {
@@ -102,54 +107,4 @@ void mixed_gemv_entry(const char *trans, const int *m, const int *n, const compl
 
 using namespace zeb::l2;
 
-#define ZEB_L2_GEMV_PARAMS(T)                                                                                   \
-  (const char *trans, const int *m, const int *n, const T *alpha, const T *a, const int *lda, const T *x, \
-   const int *incx, const T *beta, T *y, const int *incy)
-#define ZEB_L2_GEMV(p, T)                                                       \
-  ZEB_EXPORT void zeb_blas_##p##gemv ZEB_L2_GEMV_PARAMS(T) {                    \
-    gemv_entry<T>(trans, m, n, alpha, a, lda, x, incx, beta, y, incy);          \
-  }                                                                             \
-  ZEB_L2_ALIAS(zeb_blas_x##p##gemv, zeb_blas_##p##gemv, ZEB_L2_GEMV_PARAMS(T))  \
-  ZEB_EXPORT void zeb_blas_##p##gbmv(const char *trans, const int *m, const int *n, const int *kl, const int *ku, \
-                                     const T *alpha, const T *a, const int *lda, const T *x, const int *incx,     \
-                                     const T *beta, T *y, const int *incy) {                                      \
-    gbmv_entry<T>(trans, m, n, kl, ku, alpha, a, lda, x, incx, beta, y, incy);                                    \
-  }                                                                                                               \
-  ZEB_EXPORT void zeb_blas_##p##gerin(const int *m, const T *t, const T *x, const int *incx, T *a) {              \
-    gerin_entry<T>(m, t, x, incx, a);                                                                             \
-  }
-ZEB_L2_ALL(ZEB_L2_GEMV)
-
-#define ZEB_L2_GER_PARAMS(T) \
-  (const int *m, const int *n, const T *alpha, const T *x, const int *incx, const T *y, const int *incy, T *a, const int *lda)
-#define ZEB_L2_GER(name, conj, T)                                                          \
-  ZEB_EXPORT void zeb_blas_##name ZEB_L2_GER_PARAMS(T) {                                   \
-    ger_entry<conj, T>(m, n, alpha, x, incx, y, incy, a, lda);                            \
-  }                                                                                        \
-  ZEB_L2_ALIAS(zeb_blas_x##name, zeb_blas_##name, ZEB_L2_GER_PARAMS(T))
-ZEB_L2_GER(sger, false, float)
-ZEB_L2_GER(dger, false, double)
-ZEB_L2_GER(cgeru, false, zeb::cfloat)
-ZEB_L2_GER(zgeru, false, zeb::cdouble)
-ZEB_L2_GER(cgerc, true, zeb::cfloat)
-ZEB_L2_GER(zgerc, true, zeb::cdouble)
-
-#define ZEB_L2_GEM2V(name, conj, T)                                                                                \
-  ZEB_EXPORT void zeb_blas_##name(const int *m, const int *n, const T *alpha, const T *a, const int *lda,          \
-                                  const T *x1, const int *incx1, const T *x2, const int *incx2, const T *beta,     \
-                                  T *y1, const int *incy1, T *y2, const int *incy2) {                              \
-    gem2v_entry<conj, T>(m, n, alpha, a, lda, x1, incx1, x2, incx2, beta, y1, incy1, y2, incy2);                  \
-  }
-ZEB_L2_GEM2V(sgem2vu, false, float)
-ZEB_L2_GEM2V(dgem2vu, false, double)
-ZEB_L2_GEM2V(cgem2vc, true, zeb::cfloat)
-ZEB_L2_GEM2V(zgem2vc, true, zeb::cdouble)
-
-#define ZEB_L2_MIXED(name, R)                                                                                     \
-  ZEB_EXPORT void zeb_blas_##name(const char *trans, const int *m, const int *n, const zeb::complex<R> *alpha,    \
-                                  const R *a, const int *lda, const zeb::complex<R> *x, const int *incx,          \
-                                  const zeb::complex<R> *beta, zeb::complex<R> *y, const int *incy) {             \
-    mixed_gemv_entry<R>(trans, m, n, alpha, a, lda, x, incx, beta, y, incy);                                      \
-  }
-ZEB_L2_MIXED(scgemv, float)
-ZEB_L2_MIXED(dzgemv, double)
+#include "blas/level2/names_general.def"

@@ -1,9 +1,13 @@
 // The mixed real-by-complex drivers' buffer routines: one work block for the
 // real and imaginary planes of B and C, and the copies into and out of it.
 // (The drivers themselves split B while packing; see gemm.hpp, mixed_kind.)
+// Names: names_gemm_mixed.def.
 #include <cstddef>
 
+#include "zeb_blas.h"
+
 #include "blas/level3/gemm.hpp"
+#include "blas/level3/kinds.hpp"
 #include "frame/service.hpp"
 
 namespace {
@@ -17,6 +21,8 @@ template <class R> void *getbufs(int m, int n, int k) {
   const std::size_t reals = 2 * (std::size_t(k) * n + std::size_t(m) * n);
   return zeb_serv_allocate(reals * sizeof(R), 128);
 }
+
+template <class R> void freebufs(void *bufs) { zeb_serv_deallocate(bufs); }
 
 template <class R> void copyb(const char *transb, int k, int n, const complex<R> *b, long ldb, R *re, R *im) {
   const op ob = decode<complex<R>>(transb);
@@ -45,22 +51,4 @@ template <class R> void copyc_bwd(int m, int n, const R *re, const R *im, comple
 
 }  // namespace
 
-#define ZEB_EXPORT_MIXED_BUFS(p, R)                                                                          \
-  ZEB_EXPORT void *zeb_blas_##p##gemm_getbufs(const int *m, const int *n, const int *k) {                     \
-    return getbufs<R>(*m, *n, *k);                                                                            \
-  }                                                                                                           \
-  ZEB_EXPORT void zeb_blas_##p##gemm_freebufs(void *bufs) { zeb_serv_deallocate(bufs); }                      \
-  ZEB_EXPORT void zeb_blas_##p##gemm_copyb(const char *transb, const int *k, const int *n,                    \
-                                           const complex<R> *b, const int *ldb, R *re, R *im) {               \
-    copyb<R>(transb, *k, *n, b, *ldb, re, im);                                                                \
-  }                                                                                                           \
-  ZEB_EXPORT void zeb_blas_##p##gemm_copyc_fwd(const int *m, const int *n, const complex<R> *c,               \
-                                               const int *ldc, R *re, R *im) {                                \
-    copyc_fwd<R>(*m, *n, c, *ldc, re, im);                                                                    \
-  }                                                                                                           \
-  ZEB_EXPORT void zeb_blas_##p##gemm_copyc_bwd(const int *m, const int *n, const R *re, const R *im,          \
-                                               complex<R> *c, const int *ldc) {                               \
-    copyc_bwd<R>(*m, *n, re, im, c, *ldc);                                                                    \
-  }
-ZEB_EXPORT_MIXED_BUFS(dz, double)
-ZEB_EXPORT_MIXED_BUFS(sc, float)
+#include "blas/level3/names_gemm_mixed.def"

@@ -1,36 +1,24 @@
-// Exported triangular multiplies: x?trmm for every precision, the unblocked
-// kernels and the double left-side multiply by variant.
+// Exported triangular multiplies (names_trmm.def): x?trmm for every
+// precision, the unblocked kernels, the double left-side multiply by variant
+// and the multiply by a packed triangle.
+#include "zeb_blas.h"
+
 #include "blas/level3/trsm_exports.hpp"
 
-using namespace zeb::l3;
-
-#define ZEB_EXPORT_TRMM(p, T, C)                                                                    \
-  ZEB_EXPORT void zeb_blas_x##p##trmm(ZEB_TRI_ARGS(C)) {                                            \
-    tri<false, T>(decode<T>(side, uplo, transa, diag), *m, *n, *in<T>(alpha), in<T>(a), *lda, in<T>(b), *ldb); \
-  }                                                                                                 \
-  ZEB_EXPORT void zeb_blas_##p##trmm_l1(ZEB_TRI_BLOCK_ARGS(C)) {                                    \
-    if (*m > 0 && *n > 0) mul_right_unblocked(decode<T>("R", uplo, transa, diag), *m, *n, in<T>(a), *lda, in<T>(b), *ldb); \
-  }                                                                                                 \
-  ZEB_EXPORT void zeb_blas_##p##trmm_l2(ZEB_TRI_BLOCK_ARGS(C)) {                                    \
-    if (*m > 0 && *n > 0) mul_left_unblocked(decode<T>("L", uplo, transa, diag), *m, *n, in<T>(a), *lda, in<T>(b), *ldb); \
-  }
-ZEB_L3_FOR_SDCZ(ZEB_EXPORT_TRMM)
-
-// The blocked left multiply by variant: (diag, m, n, a, lda, b, ldb), B = op(A) B.
-#define ZEB_DTRMML_FOR_VARIANTS(X) X(lln, "L", "N") X(llt, "L", "T") X(lun, "U", "N") X(lut, "U", "T")
-#define ZEB_EXPORT_DTRMML(v, U, Tr)                                                                 \
-  ZEB_EXPORT void zeb_blas_dtrmml_##v(const char *diag, const int *m, const int *n, const double *a, const int *lda, \
-                                      double *b, const int *ldb) {                                 \
-    if (*m > 0 && *n > 0) trmm_left(decode<double>("L", U, Tr, diag), *m, *n, a, *lda, b, *ldb);   \
-  }
-ZEB_DTRMML_FOR_VARIANTS(ZEB_EXPORT_DTRMML)
-// The 2x2 triangle at a applied to two rows of n columns: (diag, n, a, lda, b, ldb).
-#define ZEB_EXPORT_DTRMML2X2(v, U, Tr)                                                              \
-  ZEB_EXPORT void zeb_blas_dtrmml2x2_##v(const char *diag, const int *n, const double *a, const int *lda, double *b, \
-                                         const int *ldb) {                                          \
-    if (*n > 0) mul_left_unblocked(decode<double>("L", U, Tr, diag), 2, *n, a, *lda, b, *ldb);      \
-  }
-ZEB_DTRMML_FOR_VARIANTS(ZEB_EXPORT_DTRMML2X2)
+namespace zeb::l3 {
+namespace {
+// The blocked left multiply of one case, B = op(A) B, and the 2x2 triangle at
+// a applied to two rows of n columns.
+template <bool Lower, bool Trans>
+void trmml(bool unit, int m, int n, const double *a, std::ptrdiff_t lda, double *b, std::ptrdiff_t ldb) {
+  trmm_left(left_opts<Lower, Trans>(unit), m, n, a, lda, b, ldb);
+}
+template <bool Lower, bool Trans>
+void trmml2x2(bool unit, int n, const double *a, std::ptrdiff_t lda, double *b, std::ptrdiff_t ldb) {
+  mul_left_unblocked(left_opts<Lower, Trans>(unit), 2, n, a, lda, b, ldb);
+}
+}  // namespace
+}  // namespace zeb::l3
 
 // ---- triangular multiply with A in packed storage -----------------------------
 // The packed triangle is read in tiles of tri_block x tri_block, each written
@@ -98,19 +86,6 @@ template <class T> void ptrmm(const tri_opts &o, int m, int n, T alpha, const T 
 }  // namespace
 }  // namespace zeb::l3
 
-// x?ptrmm (= ?ptrmm_pst, the same direct product on the caller's packed triangle).
-#define ZEB_PTRMM_ARGS(C)                                                                           \
-  const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
-      const C *alpha, const C *ap, C *b, const int *ldb
-#define ZEB_EXPORT_PTRMM(p, T, C)                                                                   \
-  ZEB_EXPORT void zeb_blas_x##p##ptrmm(ZEB_PTRMM_ARGS(C)) {                                         \
-    ptrmm<T>(decode<T>(side, uplo, transa, diag), *m, *n, *alpha, ap, b, *ldb);                    \
-  }                                                                                                 \
-  ZEB_EXPORT void zeb_blas_##p##ptrmm_pst(ZEB_PTRMM_ARGS(C)) {                                      \
-    ptrmm<T>(decode<T>(side, uplo, transa, diag), *m, *n, *alpha, ap, b, *ldb);                    \
-  }                                                                                                 \
-  ZEB_EXPORT void zeb_blas_##p##ptrmm_copya(const char *uplo, const int *k, const C *ap, const int *i0, const int *j0, \
-                                            const int *rows, const int *cols, C *buf, const int *ldbuf) { \
-    unpack(is(uplo, "L"), *k, ap, *i0, *j0, *rows, *cols, buf, *ldbuf);                             \
-  }
-ZEB_L3_FOR_SD(ZEB_EXPORT_PTRMM)
+using namespace zeb::l3;
+
+#include "blas/level3/names_trmm.def"

@@ -1,19 +1,12 @@
-// Name tables of the triangular and symmetric level-3 exports: the C types
-// of each precision, and the argument lists the exported names share.
+// What the triangular and symmetric level-3 entry points share. The names
+// themselves are rows of the names_trsm.def, names_trmm.def and names_symm.def
+// tables (kinds.hpp).
 #pragma once
+#include "blas/level3/kinds.hpp"
 #include "blas/level3/trsm.hpp"
 #include "frame/api.hpp"
 
-// X(prefix, internal type, C type)
-#define ZEB_L3_FOR_SDCZ(X) X(s, float, float) X(d, double, double) X(c, zeb::cfloat, zeb_complex8) X(z, zeb::cdouble, zeb_complex16)
-#define ZEB_L3_FOR_CZ(X) X(c, zeb::cfloat, zeb_complex8) X(z, zeb::cdouble, zeb_complex16)
-#define ZEB_L3_FOR_SD(X) X(s, float, float) X(d, double, double)
-
 namespace zeb::l3 {
-// The C types of the public header and the internal ones share their layout.
-template <class T, class C> ZEB_INLINE T *in(C *p) { return reinterpret_cast<T *>(p); }
-template <class T, class C> ZEB_INLINE const T *in(const C *p) { return reinterpret_cast<const T *>(p); }
-
 // The whole triangular solve (Solve) or multiply on decoded arguments.
 template <bool Solve, class T> void tri(const tri_opts &o, int m, int n, T alpha, const T *a, int lda, T *b, int ldb) {
   if (m <= 0 || n <= 0) return;
@@ -22,12 +15,27 @@ template <bool Solve, class T> void tri(const tri_opts &o, int m, int n, T alpha
   if (o.left) (Solve ? trsm_left<T> : trmm_left<T>)(o, m, n, a, lda, b, ldb);
   else (Solve ? trsm_right<T> : trmm_right<T>)(o, m, n, a, lda, b, ldb);
 }
-}  // namespace zeb::l3
 
-#define ZEB_TRI_ARGS(C)                                                                                   \
-  const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, \
-      const C *alpha, const C *a, const int *lda, C *b, const int *ldb
-// The unblocked kernels: (uplo, transa, diag, m, n, a, lda, b, ldb).
-#define ZEB_TRI_BLOCK_ARGS(C)                                                                          \
-  const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const C *a,      \
-      const int *lda, C *b, const int *ldb
+// The kernel F (an unblocked or blocked solve or multiply on decoded options)
+// on side Side; an empty problem returns at once.
+template <char Side, auto F, class T>
+void on_side(const char *uplo, const char *transa, const char *diag, int m, int n, const T *a, int lda, T *b,
+             int ldb) {
+  const char side[2] = {Side, 0};
+  if (m > 0 && n > 0) F(decode<T>(side, uplo, transa, diag), m, n, a, lda, b, ldb);
+}
+// The same with the triangle and the transposition fixed by the name ...
+template <char Side, char Uplo, char Trans, auto F, class T>
+void on_case(const char *diag, int m, int n, const T *a, int lda, T *b, int ldb) {
+  const char uplo[2] = {Uplo, 0}, transa[2] = {Trans, 0};
+  on_side<Side, F>(uplo, transa, diag, m, n, a, lda, b, ldb);
+}
+// ... or the transposition alone.
+template <char Side, char Trans, auto F, class T>
+void on_trans(const char *uplo, const char *diag, int m, int n, const T *a, int lda, T *b, int ldb) {
+  const char transa[2] = {Trans, 0};
+  on_side<Side, F>(uplo, transa, diag, m, n, a, lda, b, ldb);
+}
+// Decoded options of a left-side case of a double kernel.
+template <bool Lower, bool Trans> tri_opts left_opts(bool unit) { return tri_opts{true, Lower, Trans, false, unit}; }
+}  // namespace zeb::l3

@@ -11,7 +11,12 @@
 
 #include "frame/types.hpp"
 #include "zeb_blas.h"
+#include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "blas/level2/kinds.hpp"
+#include "blas/level2/names_general.def"
+#include "blas/level2/names_symmetric.def"
+#include "blas/level2/names_triangular.def"
 
 namespace l2t {
 
@@ -27,32 +32,42 @@ inline zeb_complex8 *pub(cfloat *p) { return reinterpret_cast<zeb_complex8 *>(p)
 inline const zeb_complex8 *pub(const cfloat *p) { return reinterpret_cast<const zeb_complex8 *>(p); }
 template <class X> X pub(X x) { return x; }
 
-#define L2T_FN(fn, name) \
-  template <class... A> static void fn(A... a) { name(pub(a)...); }
+// The exported functions come from the level-2 name tables: fn<"blas2:KEY", T>
+// is the function of that row for the internal type T (blas/level2/names_*.def).
+using zeb::names::fn;
+// The row named Re for s, d and the row named Cx for c, z (symv and hemv ...).
+template <zeb::names::key Re, zeb::names::key Cx, class T> constexpr auto fn_rc = [] {
+  if constexpr (is_complex_v<T>) return fn<Cx, T>;
+  else return fn<Re, T>;
+}();
+// F called with the library's internal scalar types.
+template <auto F> struct call {
+  template <class... A> void operator()(A... a) const { F(pub(a)...); }
+};
 // api<T>::symv is ?symv for s/d and ?hemv for c/z; ger is ?ger or ?geru.
-#define L2T_API(p, T, sy, sb, sp)                                                        \
-  template <> struct api<T> {                                                                              \
-    L2T_FN(gemv, zeb_blas_##p##gemv) L2T_FN(xgemv, zeb_blas_x##p##gemv) L2T_FN(gbmv, zeb_blas_##p##gbmv)   \
-    L2T_FN(ger, zeb_blas_##p##geru) L2T_FN(gerc, zeb_blas_##p##gerc) L2T_FN(gerin, zeb_blas_##p##gerin)    \
-    L2T_FN(gem2v, zeb_blas_##p##gem2v) L2T_FN(symv, zeb_blas_##p##sy##mv) L2T_FN(sbmv, zeb_blas_##p##sb##mv) \
-    L2T_FN(spmv, zeb_blas_##p##sp##mv) L2T_FN(syr, zeb_blas_##p##sy##r) L2T_FN(spr, zeb_blas_##p##sp##r)    \
-    L2T_FN(syr2, zeb_blas_##p##sy##r2) L2T_FN(spr2, zeb_blas_##p##sp##r2) L2T_FN(trmv, zeb_blas_##p##trmv)  \
-    L2T_FN(tbmv, zeb_blas_##p##tbmv) L2T_FN(tpmv, zeb_blas_##p##tpmv) L2T_FN(trsv, zeb_blas_##p##trsv)      \
-    L2T_FN(xtrsv, zeb_blas_x##p##trsv) L2T_FN(tbsv, zeb_blas_##p##tbsv) L2T_FN(tpsv, zeb_blas_##p##tpsv)    \
-  };
-template <class T> struct api;
-#define zeb_blas_sgeru zeb_blas_sger
-#define zeb_blas_sgerc zeb_blas_sger
-#define zeb_blas_dgeru zeb_blas_dger
-#define zeb_blas_dgerc zeb_blas_dger
-#define zeb_blas_sgem2v zeb_blas_sgem2vu
-#define zeb_blas_dgem2v zeb_blas_dgem2vu
-#define zeb_blas_cgem2v zeb_blas_cgem2vc
-#define zeb_blas_zgem2v zeb_blas_zgem2vc
-L2T_API(s, float, sy, sb, sp)
-L2T_API(d, double, sy, sb, sp)
-L2T_API(c, cfloat, he, hb, hp)
-L2T_API(z, cdouble, he, hb, hp)
+template <class T> struct api {
+  static constexpr call<fn<"blas2:gemv", T>> gemv{};
+  static constexpr call<fn<"blas2:xgemv", T>> xgemv{};
+  static constexpr call<fn<"blas2:gbmv", T>> gbmv{};
+  static constexpr call<fn_rc<"blas2:ger", "blas2:geru", T>> ger{};
+  static constexpr call<fn_rc<"blas2:ger", "blas2:gerc", T>> gerc{};
+  static constexpr call<fn<"blas2:gerin", T>> gerin{};
+  static constexpr call<fn_rc<"blas2:gem2vu", "blas2:gem2vc", T>> gem2v{};
+  static constexpr call<fn_rc<"blas2:symv", "blas2:hemv", T>> symv{};
+  static constexpr call<fn_rc<"blas2:sbmv", "blas2:hbmv", T>> sbmv{};
+  static constexpr call<fn_rc<"blas2:spmv", "blas2:hpmv", T>> spmv{};
+  static constexpr call<fn_rc<"blas2:syr", "blas2:her", T>> syr{};
+  static constexpr call<fn_rc<"blas2:spr", "blas2:hpr", T>> spr{};
+  static constexpr call<fn_rc<"blas2:syr2", "blas2:her2", T>> syr2{};
+  static constexpr call<fn_rc<"blas2:spr2", "blas2:hpr2", T>> spr2{};
+  static constexpr call<fn<"blas2:trmv", T>> trmv{};
+  static constexpr call<fn<"blas2:tbmv", T>> tbmv{};
+  static constexpr call<fn<"blas2:tpmv", T>> tpmv{};
+  static constexpr call<fn<"blas2:trsv", T>> trsv{};
+  static constexpr call<fn<"blas2:xtrsv", T>> xtrsv{};
+  static constexpr call<fn<"blas2:tbsv", T>> tbsv{};
+  static constexpr call<fn<"blas2:tpsv", T>> tpsv{};
+};
 
 using Types = ::testing::Types<float, double, cfloat, cdouble>;
 

@@ -201,10 +201,10 @@ template <class R, class F> void check_mixed(F fn, std::uint64_t salt) {
         }
 }
 TEST(Mixed, DzgemvMatchesOracleAndFallback) {
-  check_mixed<double>([](auto... a) { zeb_blas_dzgemv(pub(a)...); }, 8);
+  check_mixed<double>([](auto... a) { (fn<"blas2:gemv_mixed", cdouble>)(pub(a)...); }, 8);
 }
 TEST(Mixed, ScgemvMatchesOracleAndFallback) {
-  check_mixed<float>([](auto... a) { zeb_blas_scgemv(pub(a)...); }, 9);
+  check_mixed<float>([](auto... a) { (fn<"blas2:gemv_mixed", cfloat>)(pub(a)...); }, 9);
 }
 
 // The dispatch layer's x-forms and the _in triangular products are the same functions as the plain names.

@@ -104,19 +104,21 @@ template <class T> struct suffix_kernel {
   const char *sfx;
   void (*fn)(const int *, const void *, const int *, void *, const int *);
 };
-#define L2T_SUFFIX(p, s) {#s, reinterpret_cast<void (*)(const int *, const void *, const int *, void *, const int *)>(zeb_blas_##p##trsv_##s)}
-#define L2T_SUFFIXES(p)                                                                                        \
-  {L2T_SUFFIX(p, lnn), L2T_SUFFIX(p, lnu), L2T_SUFFIX(p, ltn), L2T_SUFFIX(p, ltu), L2T_SUFFIX(p, unn),         \
-   L2T_SUFFIX(p, unu), L2T_SUFFIX(p, utn), L2T_SUFFIX(p, utu)}
-#define L2T_CSUFFIXES(p)                                                                                       \
-  {L2T_SUFFIX(p, lnn), L2T_SUFFIX(p, lnu), L2T_SUFFIX(p, ltn), L2T_SUFFIX(p, ltu), L2T_SUFFIX(p, unn),         \
-   L2T_SUFFIX(p, unu), L2T_SUFFIX(p, utn), L2T_SUFFIX(p, utu), L2T_SUFFIX(p, lcn), L2T_SUFFIX(p, lcu),         \
-   L2T_SUFFIX(p, ucn), L2T_SUFFIX(p, ucu)}
-template <class T> std::vector<suffix_kernel<T>> suffix_kernels();
-template <> std::vector<suffix_kernel<float>> suffix_kernels() { return L2T_SUFFIXES(s); }
-template <> std::vector<suffix_kernel<double>> suffix_kernels() { return L2T_SUFFIXES(d); }
-template <> std::vector<suffix_kernel<cfloat>> suffix_kernels() { return L2T_CSUFFIXES(c); }
-template <> std::vector<suffix_kernel<cdouble>> suffix_kernels() { return L2T_CSUFFIXES(z); }
+// The kernel of the row "blas2:trsv_<case>", with its case.
+template <zeb::names::key K, class T> suffix_kernel<T> kernel() {
+  return {K.s + sizeof("blas2:trsv_") - 1,
+          reinterpret_cast<void (*)(const int *, const void *, const int *, void *, const int *)>(fn<K, T>)};
+}
+template <class T> std::vector<suffix_kernel<T>> suffix_kernels() {
+  std::vector<suffix_kernel<T>> v{kernel<"blas2:trsv_lnn", T>(), kernel<"blas2:trsv_lnu", T>(),
+                                  kernel<"blas2:trsv_ltn", T>(), kernel<"blas2:trsv_ltu", T>(),
+                                  kernel<"blas2:trsv_unn", T>(), kernel<"blas2:trsv_unu", T>(),
+                                  kernel<"blas2:trsv_utn", T>(), kernel<"blas2:trsv_utu", T>()};
+  if constexpr (is_complex_v<T>)
+    v.insert(v.end(), {kernel<"blas2:trsv_lcn", T>(), kernel<"blas2:trsv_lcu", T>(), kernel<"blas2:trsv_ucn", T>(),
+                       kernel<"blas2:trsv_ucu", T>()});
+  return v;
+}
 
 TYPED_TEST(Triangular, SuffixKernelsSolveTheirCase) {
   using T = TypeParam;

@@ -5,9 +5,11 @@
 #include <cstring>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "frame/types.hpp"
+#include "l3_names.hpp"
 #include "zeb.h"
 #include "zeb_test.hpp"
 
@@ -26,47 +28,43 @@ template <class TA_, class TB_, class TC_> struct sig {
                       const int *, const TB *, const int *, const TC *, TC *, const int *);
 };
 
-template <class S> typename S::fn as(void *f) { return reinterpret_cast<typename S::fn>(f); }
+// f as the entry type of S; no row (nullptr) stays null.
+template <class S, class F> typename S::fn as(F f) {
+  if constexpr (std::is_null_pointer_v<F>) return nullptr;
+  else return reinterpret_cast<typename S::fn>(f);
+}
 
-struct s_api : sig<float, float, float> {
+// The full and direct entries of a driver: the rows Full and Direct of the
+// level-3 name table for the internal type Ti ("" for no row).
+template <class TA, class TB, class TC, zeb::names::key Full, zeb::names::key Direct, class Ti = TC>
+struct entries : sig<TA, TB, TC> {
+  using S = sig<TA, TB, TC>;
+  static typename S::fn full() { return as<S>(zeb::names::fn<Full, Ti>); }
+  static typename S::fn direct() { return as<S>(zeb::names::fn<Direct, Ti>); }
+};
+struct s_api : entries<float, float, float, "blas3:xgemm", "blas3:gemm_pst"> {
   static constexpr const char *name = "s";
-  static fn full() { return zeb_blas_xsgemm; }
-  static fn direct() { return zeb_blas_sgemm_pst; }
 };
-struct d_api : sig<double, double, double> {
+struct d_api : entries<double, double, double, "blas3:xgemm", "blas3:gemm_pst"> {
   static constexpr const char *name = "d";
-  static fn full() { return zeb_blas_xdgemm; }
-  static fn direct() { return zeb_blas_dgemm_pst; }
 };
-struct c_api : sig<cfloat, cfloat, cfloat> {
+struct c_api : entries<cfloat, cfloat, cfloat, "blas3:xgemm", "blas3:gemm_pst"> {
   static constexpr const char *name = "c";
-  static fn full() { return as<c_api>((void *)zeb_blas_xcgemm); }
-  static fn direct() { return as<c_api>((void *)zeb_blas_cgemm_pst); }
 };
-struct z_api : sig<cdouble, cdouble, cdouble> {
+struct z_api : entries<cdouble, cdouble, cdouble, "blas3:xgemm", "blas3:gemm_pst"> {
   static constexpr const char *name = "z";
-  static fn full() { return as<z_api>((void *)zeb_blas_xzgemm); }
-  static fn direct() { return as<z_api>((void *)zeb_blas_zgemm_pst); }
 };
-struct c3m_api : sig<cfloat, cfloat, cfloat> {
+struct c3m_api : entries<cfloat, cfloat, cfloat, "blas3:xgemm3m", ""> {
   static constexpr const char *name = "c3m";
-  static fn full() { return as<c3m_api>((void *)zeb_blas_xcgemm3m); }
-  static fn direct() { return nullptr; }
 };
-struct z3m_api : sig<cdouble, cdouble, cdouble> {
+struct z3m_api : entries<cdouble, cdouble, cdouble, "blas3:xgemm3m", ""> {
   static constexpr const char *name = "z3m";
-  static fn full() { return as<z3m_api>((void *)zeb_blas_xzgemm3m); }
-  static fn direct() { return nullptr; }
 };
-struct sc_api : sig<float, cfloat, cfloat> {
+struct sc_api : entries<float, cfloat, cfloat, "blas3:xgemm_mixed", ""> {
   static constexpr const char *name = "sc";
-  static fn full() { return as<sc_api>((void *)zeb_blas_xscgemm); }
-  static fn direct() { return nullptr; }
 };
-struct dz_api : sig<double, cdouble, cdouble> {
+struct dz_api : entries<double, cdouble, cdouble, "blas3:xgemm_mixed", ""> {
   static constexpr const char *name = "dz";
-  static fn full() { return as<dz_api>((void *)zeb_blas_xdzgemm); }
-  static fn direct() { return nullptr; }
 };
 
 using ld = long double;

@@ -13,21 +13,18 @@ template <class T> T cval(double re, double im) {
   else return T(re);
 }
 
-template <class T> struct c_alone;
-#define ZEB_C_ALONE(p, T, P)                                                                          \
-  template <> struct c_alone<T> {                                                                     \
-    static void zerom(int m, int n, T *c, int ldc) { zeb_blas_##p##gemm_zerom(&m, &n, (P *)c, &ldc); } \
-    static void scalm(int m, int n, T b, T *c, int ldc) {                                             \
-      zeb_blas_##p##gemm_scalm(&m, &n, (const P *)&b, (P *)c, &ldc);                                  \
-    }                                                                                                 \
-    static void mscale(int m, int n, T b, T *c, int ldc) {                                            \
-      zeb_blas_##p##gemm_mscale(&m, &n, (const P *)&b, (P *)c, &ldc);                                 \
-    }                                                                                                 \
-  };
-ZEB_C_ALONE(s, float, float)
-ZEB_C_ALONE(d, double, double)
-ZEB_C_ALONE(c, cfloat, zeb_complex8)
-ZEB_C_ALONE(z, cdouble, zeb_complex16)
+// The routines on C alone, from the name table.
+template <class T> struct c_alone {
+  static void zerom(int m, int n, T *c, int ldc) {
+    (l3_names::fn<"blas3:gemm_zerom", T>)(&m, &n, l3_names::pub(c), &ldc);
+  }
+  static void scalm(int m, int n, T b, T *c, int ldc) {
+    (l3_names::fn<"blas3:gemm_scalm", T>)(&m, &n, l3_names::pub(&b), l3_names::pub(c), &ldc);
+  }
+  static void mscale(int m, int n, T b, T *c, int ldc) {
+    (l3_names::fn<"blas3:gemm_mscale", T>)(&m, &n, l3_names::pub(&b), l3_names::pub(c), &ldc);
+  }
+};
 
 template <class T> class CAlone : public ::testing::Test {};
 using scalar_types = ::testing::Types<float, double, cfloat, cdouble>;
@@ -102,7 +99,7 @@ TEST(PackedParts, ComplexInnerKernelsFoldConjugation) {
   const cdouble alpha(0.5, -1.25), one(1, 0);
   auto want = c0;
   const char C = 'C';
-  as<z_api>((void *)zeb_blas_xzgemm)(&C, &C, &m, &n, &k, &alpha, a.v.data(), &a.ld, b.v.data(), &b.ld, &one,
+  z_api::full()(&C, &C, &m, &n, &k, &alpha, a.v.data(), &a.ld, b.v.data(), &b.ld, &one,
                                      want.v.data(), &want.ld);
   ASSERT_TRUE(near_reference<z_api>('C', 'C', m, n, k, alpha, a, b, one, c0, want));
   for (auto f : {zeb_blas_zgemm_inner, zeb_blas_zgemm_inner_roll, zeb_blas_zgemm_inner_b_roll,

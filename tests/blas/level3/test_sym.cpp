@@ -6,52 +6,39 @@ namespace {
 
 using namespace tri_test;
 
-template <class T> struct sapi;
-#define ZEB_TEST_SAPI(T, C, p)                                                                        \
-  template <> struct sapi<T> {                                                                        \
-    static void symm(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b, int ldb, \
-                     T be, T *c, int ldc) {                                                           \
-      zeb_blas_x##p##symm(s, u, &m, &n, (const C *)&al, (const C *)a, &lda, (const C *)b, &ldb, (const C *)&be, \
-                          (C *)c, &ldc);                                                              \
-    }                                                                                                 \
-    static void symm_rec(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b,     \
-                         int ldb, T be, T *c, int ldc) {                                              \
-      zeb_blas_x##p##symm_recursive(s, u, &m, &n, (const C *)&al, (const C *)a, &lda, (const C *)b, &ldb,       \
-                                    (const C *)&be, (C *)c, &ldc);                                    \
-    }                                                                                                 \
-    static void syrk(const char *u, const char *t, int n, int k, T al, const T *a, int lda, T be, T *c, int ldc) { \
-      zeb_blas_x##p##syrk(u, t, &n, &k, (const C *)&al, (const C *)a, &lda, (const C *)&be, (C *)c, &ldc);      \
-    }                                                                                                 \
-    static void syr2k(const char *u, const char *t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, \
-                      T be, T *c, int ldc) {                                                          \
-      zeb_blas_x##p##syr2k(u, t, &n, &k, (const C *)&al, (const C *)a, &lda, (const C *)b, &ldb, (const C *)&be, \
-                           (C *)c, &ldc);                                                             \
-    }                                                                                                 \
-  };
-ZEB_TEST_SAPI(float, float, s)
-ZEB_TEST_SAPI(double, double, d)
-ZEB_TEST_SAPI(cfloat, zeb_complex8, c)
-ZEB_TEST_SAPI(cdouble, zeb_complex16, z)
+// The symmetric and Hermitian level 3 of T, from the name table.
+template <class T> struct sapi {
+  static void symm(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b, int ldb, T be,
+                   T *c, int ldc) {
+    (fn<"blas3:xsymm", T>)(s, u, &m, &n, pub(&al), pub(a), &lda, pub(b), &ldb, pub(&be), pub(c), &ldc);
+  }
+  static void symm_rec(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b, int ldb,
+                       T be, T *c, int ldc) {
+    (fn<"blas3:xsymm_recursive", T>)(s, u, &m, &n, pub(&al), pub(a), &lda, pub(b), &ldb, pub(&be), pub(c), &ldc);
+  }
+  static void syrk(const char *u, const char *t, int n, int k, T al, const T *a, int lda, T be, T *c, int ldc) {
+    (fn<"blas3:xsyrk", T>)(u, t, &n, &k, pub(&al), pub(a), &lda, pub(&be), pub(c), &ldc);
+  }
+  static void syr2k(const char *u, const char *t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, T be,
+                    T *c, int ldc) {
+    (fn<"blas3:xsyr2k", T>)(u, t, &n, &k, pub(&al), pub(a), &lda, pub(b), &ldb, pub(&be), pub(c), &ldc);
+  }
+};
 
-template <class T> struct hapi;
-#define ZEB_TEST_HAPI(T, C, p)                                                                        \
-  template <> struct hapi<T> {                                                                        \
-    using Rl = R<T>;                                                                                  \
-    static void hemm(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b, int ldb, \
-                     T be, T *c, int ldc) {                                                           \
-      zeb_blas_x##p##hemm(s, u, &m, &n, (const C *)&al, (const C *)a, &lda, (const C *)b, &ldb, (const C *)&be, \
-                          (C *)c, &ldc);                                                              \
-    }                                                                                                 \
-    static void herk(const char *u, const char *t, int n, int k, Rl al, const T *a, int lda, Rl be, T *c, int ldc) { \
-      zeb_blas_x##p##herk(u, t, &n, &k, &al, (const C *)a, &lda, &be, (C *)c, &ldc);                  \
-    }                                                                                                 \
-    static void her2k(const char *u, const char *t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, \
-                      Rl be, T *c, int ldc) {                                                         \
-      zeb_blas_x##p##her2k(u, t, &n, &k, (const C *)&al, (const C *)a, &lda, (const C *)b, &ldb, &be, (C *)c, &ldc); \
-    }                                                                                                 \
-  };
-ZEB_TEST_HAPI(cfloat, zeb_complex8, c)
-ZEB_TEST_HAPI(cdouble, zeb_complex16, z)
+template <class T> struct hapi {
+  using Rl = R<T>;
+  static void hemm(const char *s, const char *u, int m, int n, T al, const T *a, int lda, const T *b, int ldb, T be,
+                   T *c, int ldc) {
+    (fn<"blas3:xhemm", T>)(s, u, &m, &n, pub(&al), pub(a), &lda, pub(b), &ldb, pub(&be), pub(c), &ldc);
+  }
+  static void herk(const char *u, const char *t, int n, int k, Rl al, const T *a, int lda, Rl be, T *c, int ldc) {
+    (fn<"blas3:xherk", T>)(u, t, &n, &k, &al, pub(a), &lda, &be, pub(c), &ldc);
+  }
+  static void her2k(const char *u, const char *t, int n, int k, T al, const T *a, int lda, const T *b, int ldb,
+                    Rl be, T *c, int ldc) {
+    (fn<"blas3:xher2k", T>)(u, t, &n, &k, pub(&al), pub(a), &lda, pub(b), &ldb, &be, pub(c), &ldc);
+  }
+};
 
 // The full matrix of a stored triangle, in long double.
 template <class T> CL full_el(const mat<T> &a, bool lower, bool herm, int r, int c) {

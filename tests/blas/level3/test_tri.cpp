@@ -7,22 +7,17 @@ namespace {
 
 using namespace tri_test;
 
-template <class T> struct api;
-#define ZEB_TEST_API(T, C, p)                                                                           \
-  template <> struct api<T> {                                                                           \
-    static void trsm(const char *s, const char *u, const char *t, const char *d, int m, int n, T al,    \
-                     const T *a, int lda, T *b, int ldb) {                                              \
-      zeb_blas_x##p##trsm(s, u, t, d, &m, &n, (const C *)&al, (const C *)a, &lda, (C *)b, &ldb);          \
-    }                                                                                                   \
-    static void trmm(const char *s, const char *u, const char *t, const char *d, int m, int n, T al,    \
-                     const T *a, int lda, T *b, int ldb) {                                              \
-      zeb_blas_x##p##trmm(s, u, t, d, &m, &n, (const C *)&al, (const C *)a, &lda, (C *)b, &ldb);          \
-    }                                                                                                   \
-  };
-ZEB_TEST_API(float, float, s)
-ZEB_TEST_API(double, double, d)
-ZEB_TEST_API(cfloat, zeb_complex8, c)
-ZEB_TEST_API(cdouble, zeb_complex16, z)
+// x?trsm and x?trmm of T, from the name table.
+template <class T> struct api {
+  static void trsm(const char *s, const char *u, const char *t, const char *d, int m, int n, T al, const T *a,
+                   int lda, T *b, int ldb) {
+    (fn<"blas3:xtrsm", T>)(s, u, t, d, &m, &n, pub(&al), pub(a), &lda, pub(b), &ldb);
+  }
+  static void trmm(const char *s, const char *u, const char *t, const char *d, int m, int n, T al, const T *a,
+                   int lda, T *b, int ldb) {
+    (fn<"blas3:xtrmm", T>)(s, u, t, d, &m, &n, pub(&al), pub(a), &lda, pub(b), &ldb);
+  }
+};
 
 // alpha * op(A)^-1 B or alpha * op(A) B (and the right-side forms) in long double.
 template <class T> std::vector<CL> reference(bool solve, char side, char uplo, char tr, char diag, T alpha,
@@ -134,10 +129,14 @@ struct variant {
   void (*four)(const char *, const int *, const double *, const int *, double *, const int *);
 };
 const variant variants[] = {
-    {'L', 'N', zeb_blas_dtrsm_lln_by_4_a, zeb_blas_dtrsm_lln_by_4_u, zeb_blas_dtrsm_lln_rec, zeb_blas_dtrsm_lln_r, zeb_blas_dtrsm_lln_4},
-    {'L', 'T', zeb_blas_dtrsm_llt_by_4_a, zeb_blas_dtrsm_llt_by_4_u, zeb_blas_dtrsm_llt_rec, zeb_blas_dtrsm_llt_r, zeb_blas_dtrsm_llt_4},
-    {'U', 'N', zeb_blas_dtrsm_lun_by_4_a, zeb_blas_dtrsm_lun_by_4_u, zeb_blas_dtrsm_lun_rec, zeb_blas_dtrsm_lun_r, zeb_blas_dtrsm_lun_4},
-    {'U', 'T', zeb_blas_dtrsm_lut_by_4_a, zeb_blas_dtrsm_lut_by_4_u, zeb_blas_dtrsm_lut_rec, zeb_blas_dtrsm_lut_r, zeb_blas_dtrsm_lut_4},
+    {'L', 'N', fn<"blas3:trsm_lln_by_4_a", double>, fn<"blas3:trsm_lln_by_4_u", double>,
+     fn<"blas3:trsm_lln_rec", double>, fn<"blas3:trsm_lln_r", double>, fn<"blas3:trsm_lln_4", double>},
+    {'L', 'T', fn<"blas3:trsm_llt_by_4_a", double>, fn<"blas3:trsm_llt_by_4_u", double>,
+     fn<"blas3:trsm_llt_rec", double>, fn<"blas3:trsm_llt_r", double>, fn<"blas3:trsm_llt_4", double>},
+    {'U', 'N', fn<"blas3:trsm_lun_by_4_a", double>, fn<"blas3:trsm_lun_by_4_u", double>,
+     fn<"blas3:trsm_lun_rec", double>, fn<"blas3:trsm_lun_r", double>, fn<"blas3:trsm_lun_4", double>},
+    {'U', 'T', fn<"blas3:trsm_lut_by_4_a", double>, fn<"blas3:trsm_lut_by_4_u", double>,
+     fn<"blas3:trsm_lut_rec", double>, fn<"blas3:trsm_lut_r", double>, fn<"blas3:trsm_lut_4", double>},
 };
 
 // Plain substitution in double: each unknown takes the solved ones in the

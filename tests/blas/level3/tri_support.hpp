@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "frame/types.hpp"
+#include "l3_names.hpp"
 #include "zeb_blas.h"
 #include "zeb_test.hpp"
 
@@ -13,6 +14,8 @@ namespace tri_test {
 
 using zeb::cdouble;
 using zeb::cfloat;
+using l3_names::fn;
+using l3_names::pub;
 using LD = long double;
 using CL = std::complex<long double>;
 

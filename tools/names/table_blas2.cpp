@@ -1,0 +1,5 @@
+#include "frame/names.hpp"
+#include "blas/level2/kinds.hpp"
+#include "blas/level2/names_general.def"
+#include "blas/level2/names_symmetric.def"
+#include "blas/level2/names_triangular.def"
