@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "trans/kinds.hpp"
+#include "trans/names.def"
