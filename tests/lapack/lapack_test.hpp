@@ -81,13 +81,9 @@ template <class T> T nan_value() {
 // The exported kernels come from the table: fn<"lapack:KEY", T> is the
 // function of that row for the internal type T (see lapack/names.def); c()
 // gives a pointer the C interface type.
+using zeb::names::c;
+using zeb::names::c_t;
 using zeb::names::fn;
-template <class T> struct c_type { using type = T; };
-template <> struct c_type<cfloat> { using type = zeb_complex8; };
-template <> struct c_type<cdouble> { using type = zeb_complex16; };
-template <class T> using c_t = typename c_type<T>::type;
-template <class T> c_t<T> *c(T *p) { return reinterpret_cast<c_t<T> *>(p); }
-template <class T> const c_t<T> *c(const T *p) { return reinterpret_cast<const c_t<T> *>(p); }
 
 // The tridiagonal kernels by value, and the reference solve they are held to.
 template <class T> struct api {

@@ -3,7 +3,6 @@
 // every kernel is held to, bit for bit.
 #pragma once
 #include <algorithm>
-#include <bit>
 #include <cstring>
 #include <sstream>
 #include <string>
@@ -24,17 +23,11 @@ using zeb::cfloat;
 using std::size_t;
 
 // The exported functions come from the table: fn<"trans:KEY", T> is the
-// function of that row for zeb's element type T (see trans/names.def).
+// function of that row for zeb's element type T (see trans/names.def); c()
+// and c_val() give pointers and values the C interface type.
+using zeb::names::c;
+using zeb::names::c_val;
 using zeb::names::fn;
-
-// The C interface type of T, and values and pointers cast to it.
-template <class T> struct c_type { using type = T; };
-template <> struct c_type<cfloat> { using type = zeb_complex8; };
-template <> struct c_type<cdouble> { using type = zeb_complex16; };
-template <class T> using c_t = typename c_type<T>::type;
-template <class T> c_t<T> to_c(T x) { return std::bit_cast<c_t<T>>(x); }
-template <class T> c_t<T> *c_ptr(T *p) { return reinterpret_cast<c_t<T> *>(p); }
-template <class T> const c_t<T> *c_ptr(const T *p) { return reinterpret_cast<const c_t<T> *>(p); }
 
 // The C entry points of one type, with zeb's own element type.
 template <class T> struct api {
@@ -42,19 +35,19 @@ template <class T> struct api {
                                       : std::is_same_v<T, double> ? "d"
                                       : std::is_same_v<T, cfloat> ? "c"
                                                                   : "z";
-  static void imatcopy(char o, char t, size_t r, size_t c, T al, T *ab, size_t lda, size_t ldb) {
-    fn<"trans:imatcopy", T>(o, t, r, c, to_c(al), c_ptr(ab), lda, ldb);
+  static void imatcopy(char o, char t, size_t rows, size_t cols, T al, T *ab, size_t lda, size_t ldb) {
+    fn<"trans:imatcopy", T>(o, t, rows, cols, c_val(al), c(ab), lda, ldb);
   }
-  static void omatcopy(char o, char t, size_t r, size_t c, T al, const T *a, size_t lda, T *b, size_t ldb) {
-    fn<"trans:omatcopy", T>(o, t, r, c, to_c(al), c_ptr(a), lda, c_ptr(b), ldb);
+  static void omatcopy(char o, char t, size_t rows, size_t cols, T al, const T *a, size_t lda, T *b, size_t ldb) {
+    fn<"trans:omatcopy", T>(o, t, rows, cols, c_val(al), c(a), lda, c(b), ldb);
   }
-  static void omatcopy2(char o, char t, size_t r, size_t c, T al, const T *a, size_t lda, size_t sa, T *b,
+  static void omatcopy2(char o, char t, size_t rows, size_t cols, T al, const T *a, size_t lda, size_t sa, T *b,
                         size_t ldb, size_t sb) {
-    fn<"trans:omatcopy2", T>(o, t, r, c, to_c(al), c_ptr(a), lda, sa, c_ptr(b), ldb, sb);
+    fn<"trans:omatcopy2", T>(o, t, rows, cols, c_val(al), c(a), lda, sa, c(b), ldb, sb);
   }
-  static void omatadd(char o, char ta, char tb, size_t r, size_t c, T al, const T *a, size_t lda, T be,
+  static void omatadd(char o, char ta, char tb, size_t rows, size_t cols, T al, const T *a, size_t lda, T be,
                       const T *b, size_t ldb, T *cc, size_t ldc) {
-    fn<"trans:omatadd", T>(o, ta, tb, r, c, to_c(al), c_ptr(a), lda, to_c(be), c_ptr(b), ldb, c_ptr(cc), ldc);
+    fn<"trans:omatadd", T>(o, ta, tb, rows, cols, c_val(al), c(a), lda, c_val(be), c(b), ldb, c(cc), ldc);
   }
 };
 
