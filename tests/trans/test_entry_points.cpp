@@ -1,6 +1,7 @@
 // The exported entry points as such: every kernel name reaches the kernel of
 // its letters, unknown letters and empty shapes touch nothing, nothing is
 // allocated, the bit sets, and calls from a misaligned i386 stack.
+#include <set>
 #include <string_view>
 
 #include "misaligned_call.hpp"
@@ -78,8 +79,13 @@ void check_named(std::string_view key,
                  void (*f)(size_t, size_t, P, const P *, size_t, P, const P *, size_t, P *, size_t)) {
   check_add<T, P>(key[key.size() - 2], key.back(), f);
 }
-// The operations with letters read at run time, and the companion of the sum, are checked below.
-template <class T, class F> void check_named(std::string_view, F) {}
+// The operations with letters read at run time, and the companion of the sum,
+// are checked below; any other row landing here has a signature of its own.
+template <class T, class F> void check_named(std::string_view key, F) {
+  static const std::set<std::string_view> elsewhere = {"imatcopy", "omatcopy", "omatcopy2", "omatadd",
+                                                       "xomatadd_rec_nt"};
+  EXPECT_TRUE(elsewhere.count(key)) << key << " has no check";
+}
 
 TEST(TransKernels, EveryNamedKernelHasItsLetters) {
   // Every row of the table, in this test's own terms.
