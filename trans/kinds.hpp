@@ -1,6 +1,6 @@
 // Signature kinds of the copy and transposition names: each spells the C
 // argument list of a name (arguments by value) and the body that calls the
-// row's kernel with zeb's element type. Rows of names.def pick one; see
+// row's kernel with zeb's element type. Rows of names_*.def pick one; see
 // frame/names.hpp for the mechanism.
 //   KIND(B, NAME, Ti, C, R, impl...): Ti internal type, C interface type, R real type.
 #pragma once

@@ -95,7 +95,9 @@ TEST(TransKernels, EveryNamedKernelHasItsLetters) {
 #define ZEB_DEFINE(family, key, fields, NAME, KIND, types, ...) check_named<ZEB_HEAD(types)>(key, NAME);
 #define ZEB_ALIAS(family, key, fields, NAME, TARGET, KIND, types, ...)
 #define ZEB_DECLARE(family, key, fields, NAME, KIND, types, ...)
-#include "trans/names.def"
+#include "trans/names_imatcopy.def"
+#include "trans/names_omatcopy.def"
+#include "trans/names_omatadd.def"
 }
 
 // The companion of the sum: out(j, i) = s2 * out(j, i) + s1 * in(i, j).

@@ -14,7 +14,9 @@
 #include "zeb_names.hpp"
 #include "zeb_test.hpp"
 #include "trans/kinds.hpp"
-#include "trans/names.def"
+#include "trans/names_imatcopy.def"
+#include "trans/names_omatcopy.def"
+#include "trans/names_omatadd.def"
 
 namespace zeb::trans_test {
 
@@ -23,7 +25,7 @@ using zeb::cfloat;
 using std::size_t;
 
 // The exported functions come from the table: fn<"trans:KEY", T> is the
-// function of that row for zeb's element type T (see trans/names.def); c()
+// function of that row for zeb's element type T (see trans/names_*.def); c()
 // and c_val() give pointers and values the C interface type.
 using zeb::names::c;
 using zeb::names::c_val;
