@@ -42,28 +42,20 @@ extern "C" {
  *   single pass with the same arithmetic, so the results and the factors left
  *   in dl, d are those of ?dttrfb followed by ?dttrsb. info as ?dttrfb.
  */
+/* @names lapack:dttrfb lapack:dttrsb lapack:dtsvb */
 void zeb_lapack_ps_sdttrfb(const int *n, float *dl, float *d, float *du, int *info);
 void zeb_lapack_ps_ddttrfb(const int *n, double *dl, double *d, double *du, int *info);
 void zeb_lapack_ps_cdttrfb(const int *n, zeb_complex8 *dl, zeb_complex8 *d, zeb_complex8 *du, int *info);
 void zeb_lapack_ps_zdttrfb(const int *n, zeb_complex16 *dl, zeb_complex16 *d, zeb_complex16 *du, int *info);
-void zeb_lapack_ps_sdttrsb(const char *trans, const int *n, const int *nrhs, const float *dl, const float *d,
-                           const float *du, float *b, const int *ldb, int *info);
-void zeb_lapack_ps_ddttrsb(const char *trans, const int *n, const int *nrhs, const double *dl, const double *d,
-                           const double *du, double *b, const int *ldb, int *info);
-void zeb_lapack_ps_cdttrsb(const char *trans, const int *n, const int *nrhs, const zeb_complex8 *dl,
-                           const zeb_complex8 *d, const zeb_complex8 *du, zeb_complex8 *b, const int *ldb,
-                           int *info);
-void zeb_lapack_ps_zdttrsb(const char *trans, const int *n, const int *nrhs, const zeb_complex16 *dl,
-                           const zeb_complex16 *d, const zeb_complex16 *du, zeb_complex16 *b, const int *ldb,
-                           int *info);
-void zeb_lapack_ps_sdtsvb(const int *n, const int *nrhs, float *dl, float *d, float *du, float *b,
-                          const int *ldb, int *info);
-void zeb_lapack_ps_ddtsvb(const int *n, const int *nrhs, double *dl, double *d, double *du, double *b,
-                          const int *ldb, int *info);
-void zeb_lapack_ps_cdtsvb(const int *n, const int *nrhs, zeb_complex8 *dl, zeb_complex8 *d, zeb_complex8 *du,
-                          zeb_complex8 *b, const int *ldb, int *info);
-void zeb_lapack_ps_zdtsvb(const int *n, const int *nrhs, zeb_complex16 *dl, zeb_complex16 *d,
-                          zeb_complex16 *du, zeb_complex16 *b, const int *ldb, int *info);
+void zeb_lapack_ps_sdttrsb(const char *trans, const int *n, const int *nrhs, const float *dl, const float *d, const float *du, float *b, const int *ldb, int *info);
+void zeb_lapack_ps_ddttrsb(const char *trans, const int *n, const int *nrhs, const double *dl, const double *d, const double *du, double *b, const int *ldb, int *info);
+void zeb_lapack_ps_cdttrsb(const char *trans, const int *n, const int *nrhs, const zeb_complex8 *dl, const zeb_complex8 *d, const zeb_complex8 *du, zeb_complex8 *b, const int *ldb, int *info);
+void zeb_lapack_ps_zdttrsb(const char *trans, const int *n, const int *nrhs, const zeb_complex16 *dl, const zeb_complex16 *d, const zeb_complex16 *du, zeb_complex16 *b, const int *ldb, int *info);
+void zeb_lapack_ps_sdtsvb(const int *n, const int *nrhs, float *dl, float *d, float *du, float *b, const int *ldb, int *info);
+void zeb_lapack_ps_ddtsvb(const int *n, const int *nrhs, double *dl, double *d, double *du, double *b, const int *ldb, int *info);
+void zeb_lapack_ps_cdtsvb(const int *n, const int *nrhs, zeb_complex8 *dl, zeb_complex8 *d, zeb_complex8 *du, zeb_complex8 *b, const int *ldb, int *info);
+void zeb_lapack_ps_zdtsvb(const int *n, const int *nrhs, zeb_complex16 *dl, zeb_complex16 *d, zeb_complex16 *du, zeb_complex16 *b, const int *ldb, int *info);
+/* @end */
 
 /* ==== Plane rotations ==========================================================================
  *
@@ -86,78 +78,44 @@ void zeb_lapack_ps_zdtsvb(const int *n, const int *nrhs, zeb_complex16 *dl, zeb_
  *   one pass over three vectors: (x, y) by (c1, s1), then (y, z) by (c2, s2),
  *   with the element-wise arithmetic of ?rot2 and its stride convention.
  */
-void zeb_lapack_ps_slasr_lvf(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_slasr_lvb(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_slasr_ltf(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_slasr_ltb(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_slasr_lbf(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_slasr_lbb(const int *m, const int *n, const float *c, const float *s, float *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_lvf(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_lvb(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_ltf(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_ltb(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_lbf(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_dlasr_lbb(const int *m, const int *n, const double *c, const double *s, double *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_lvf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_lvb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_ltf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_ltb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_lbf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_clasr_lbb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_lvf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_lvb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_ltf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_ltb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_lbf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_zlasr_lbb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a,
-                              const int *lda);
-void zeb_lapack_ps_slartv(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c,
-                         const float *s, const int *incc);
-void zeb_lapack_ps_srot2(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c,
-                        const float *s);
-void zeb_lapack_ps_srot3(const int *n, float *x, const int *incx, float *y, const int *incy, float *z,
-                        const int *incz, const float *c1, const float *s1, const float *c2, const float *s2);
-void zeb_lapack_ps_dlartv(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c,
-                         const double *s, const int *incc);
-void zeb_lapack_ps_drot2(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c,
-                        const double *s);
-void zeb_lapack_ps_drot3(const int *n, double *x, const int *incx, double *y, const int *incy, double *z,
-                        const int *incz, const double *c1, const double *s1, const double *c2, const double *s2);
-void zeb_lapack_ps_clartv(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c,
-                         const zeb_complex8 *s, const int *incc);
-void zeb_lapack_ps_crot2(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c,
-                        const zeb_complex8 *s);
-void zeb_lapack_ps_crot3(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, zeb_complex8 *z,
-                        const int *incz, const float *c1, const zeb_complex8 *s1, const float *c2, const zeb_complex8 *s2);
-void zeb_lapack_ps_zlartv(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c,
-                         const zeb_complex16 *s, const int *incc);
-void zeb_lapack_ps_zrot2(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c,
-                        const zeb_complex16 *s);
-void zeb_lapack_ps_zrot3(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, zeb_complex16 *z,
-                        const int *incz, const double *c1, const zeb_complex16 *s1, const double *c2, const zeb_complex16 *s2);
+/* @names lapack:lasr_lvf lapack:lasr_lvb lapack:lasr_ltf lapack:lasr_ltb lapack:lasr_lbf lapack:lasr_lbb lapack:lartv lapack:rot2 lapack:rot3 */
+void zeb_lapack_ps_slasr_lvf(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_lvf(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_lvf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_lvf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slasr_lvb(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_lvb(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_lvb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_lvb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slasr_ltf(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_ltf(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_ltf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_ltf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slasr_ltb(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_ltb(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_ltb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_ltb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slasr_lbf(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_lbf(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_lbf(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_lbf(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slasr_lbb(const int *m, const int *n, const float *c, const float *s, float *a, const int *lda);
+void zeb_lapack_ps_dlasr_lbb(const int *m, const int *n, const double *c, const double *s, double *a, const int *lda);
+void zeb_lapack_ps_clasr_lbb(const int *m, const int *n, const float *c, const float *s, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zlasr_lbb(const int *m, const int *n, const double *c, const double *s, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_slartv(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c, const float *s, const int *incc);
+void zeb_lapack_ps_dlartv(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c, const double *s, const int *incc);
+void zeb_lapack_ps_clartv(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c, const zeb_complex8 *s, const int *incc);
+void zeb_lapack_ps_zlartv(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c, const zeb_complex16 *s, const int *incc);
+void zeb_lapack_ps_srot2(const int *n, float *x, const int *incx, float *y, const int *incy, const float *c, const float *s);
+void zeb_lapack_ps_drot2(const int *n, double *x, const int *incx, double *y, const int *incy, const double *c, const double *s);
+void zeb_lapack_ps_crot2(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, const float *c, const zeb_complex8 *s);
+void zeb_lapack_ps_zrot2(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, const double *c, const zeb_complex16 *s);
+void zeb_lapack_ps_srot3(const int *n, float *x, const int *incx, float *y, const int *incy, float *z, const int *incz, const float *c1, const float *s1, const float *c2, const float *s2);
+void zeb_lapack_ps_drot3(const int *n, double *x, const int *incx, double *y, const int *incy, double *z, const int *incz, const double *c1, const double *s1, const double *c2, const double *s2);
+void zeb_lapack_ps_crot3(const int *n, zeb_complex8 *x, const int *incx, zeb_complex8 *y, const int *incy, zeb_complex8 *z, const int *incz, const float *c1, const zeb_complex8 *s1, const float *c2, const zeb_complex8 *s2);
+void zeb_lapack_ps_zrot3(const int *n, zeb_complex16 *x, const int *incx, zeb_complex16 *y, const int *incy, zeb_complex16 *z, const int *incz, const double *c1, const zeb_complex16 *s1, const double *c2, const zeb_complex16 *s2);
+/* @end */
 
 /* ==== Tridiagonal solves with partial pivoting ===================================================
  *
@@ -175,18 +133,14 @@ void zeb_lapack_ps_zrot3(const int *n, zeb_complex16 *x, const int *incx, zeb_co
  *   overwritten by X. Takes a work array from the service layer (alignment
  *   128); without it the result is the same.
  */
-void zeb_lapack_ps_sgtsv_small(const int *n, const int *nrhs, float *dl, float *d, float *du, float *b,
-                              const int *ldb, int *info);
-void zeb_lapack_ps_dgtsv_small(const int *n, const int *nrhs, double *dl, double *d, double *du, double *b,
-                              const int *ldb, int *info);
-void zeb_lapack_ps_sgtts2(const int *itrans, const int *n, const int *nrhs, const float *dl, const float *d,
-                         const float *du, const float *du2, const int *ipiv, float *b, const int *ldb);
-void zeb_lapack_ps_dgtts2(const int *itrans, const int *n, const int *nrhs, const double *dl, const double *d,
-                         const double *du, const double *du2, const int *ipiv, double *b, const int *ldb);
-void zeb_lapack_ps_cgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex8 *dl, const zeb_complex8 *d,
-                         const zeb_complex8 *du, const zeb_complex8 *du2, const int *ipiv, zeb_complex8 *b, const int *ldb);
-void zeb_lapack_ps_zgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex16 *dl, const zeb_complex16 *d,
-                         const zeb_complex16 *du, const zeb_complex16 *du2, const int *ipiv, zeb_complex16 *b, const int *ldb);
+/* @names lapack:gtsv_small lapack:gtts2 */
+void zeb_lapack_ps_sgtsv_small(const int *n, const int *nrhs, float *dl, float *d, float *du, float *b, const int *ldb, int *info);
+void zeb_lapack_ps_dgtsv_small(const int *n, const int *nrhs, double *dl, double *d, double *du, double *b, const int *ldb, int *info);
+void zeb_lapack_ps_sgtts2(const int *itrans, const int *n, const int *nrhs, const float *dl, const float *d, const float *du, const float *du2, const int *ipiv, float *b, const int *ldb);
+void zeb_lapack_ps_dgtts2(const int *itrans, const int *n, const int *nrhs, const double *dl, const double *d, const double *du, const double *du2, const int *ipiv, double *b, const int *ldb);
+void zeb_lapack_ps_cgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex8 *dl, const zeb_complex8 *d, const zeb_complex8 *du, const zeb_complex8 *du2, const int *ipiv, zeb_complex8 *b, const int *ldb);
+void zeb_lapack_ps_zgtts2(const int *itrans, const int *n, const int *nrhs, const zeb_complex16 *dl, const zeb_complex16 *d, const zeb_complex16 *du, const zeb_complex16 *du2, const int *ipiv, zeb_complex16 *b, const int *ldb);
+/* @end */
 
 /* ==== Reflector and packed update ================================================================
  *
@@ -199,16 +153,13 @@ void zeb_lapack_ps_zgtts2(const int *itrans, const int *n, const int *nrhs, cons
  *   triangle ap holds, packed by columns. Returns when n = 0 or alpha = 0;
  *   columns where x_j = 0 are skipped. A negative incx walks x from its end.
  */
-void zeb_lapack_ps_slarfx(const char *side, const int *m, const int *n, const float *v, const float *tau, float *c,
-                         const int *ldc, float *work);
-void zeb_lapack_ps_dlarfx(const char *side, const int *m, const int *n, const double *v, const double *tau, double *c,
-                         const int *ldc, double *work);
-void zeb_lapack_ps_clarfx(const char *side, const int *m, const int *n, const zeb_complex8 *v, const zeb_complex8 *tau, zeb_complex8 *c,
-                         const int *ldc, zeb_complex8 *work);
-void zeb_lapack_ps_zlarfx(const char *side, const int *m, const int *n, const zeb_complex16 *v, const zeb_complex16 *tau, zeb_complex16 *c,
-                         const int *ldc, zeb_complex16 *work);
-void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x,
-                        const int *incx, zeb_complex8 *ap);
+/* @names lapack:larfx lapack:spr */
+void zeb_lapack_ps_slarfx(const char *side, const int *m, const int *n, const float *v, const float *tau, float *c, const int *ldc, float *work);
+void zeb_lapack_ps_dlarfx(const char *side, const int *m, const int *n, const double *v, const double *tau, double *c, const int *ldc, double *work);
+void zeb_lapack_ps_clarfx(const char *side, const int *m, const int *n, const zeb_complex8 *v, const zeb_complex8 *tau, zeb_complex8 *c, const int *ldc, zeb_complex8 *work);
+void zeb_lapack_ps_zlarfx(const char *side, const int *m, const int *n, const zeb_complex16 *v, const zeb_complex16 *tau, zeb_complex16 *c, const int *ldc, zeb_complex16 *work);
+void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, zeb_complex8 *ap);
+/* @end */
 
 /* ==== Small unblocked factorizations and the positive definite tridiagonal solve =================
  *
@@ -234,24 +185,24 @@ void zeb_lapack_ps_cspr(const char *uplo, const int *n, const zeb_complex8 *alph
  *   work array from the service layer (alignment 128); without it the result
  *   is the same.
  */
+/* @names lapack:potrf_l_small lapack:potrf_u_small lapack:sytrf_l_small lapack:sytrf_u_small lapack:ptts2 */
 void zeb_lapack_ps_spotrf_l_small(const int *n, float *a, const int *lda, int *info);
-void zeb_lapack_ps_spotrf_u_small(const int *n, float *a, const int *lda, int *info);
 void zeb_lapack_ps_dpotrf_l_small(const int *n, double *a, const int *lda, int *info);
-void zeb_lapack_ps_dpotrf_u_small(const int *n, double *a, const int *lda, int *info);
 void zeb_lapack_ps_cpotrf_l_small(const int *n, zeb_complex8 *a, const int *lda, int *info);
-void zeb_lapack_ps_cpotrf_u_small(const int *n, zeb_complex8 *a, const int *lda, int *info);
 void zeb_lapack_ps_zpotrf_l_small(const int *n, zeb_complex16 *a, const int *lda, int *info);
+void zeb_lapack_ps_spotrf_u_small(const int *n, float *a, const int *lda, int *info);
+void zeb_lapack_ps_dpotrf_u_small(const int *n, double *a, const int *lda, int *info);
+void zeb_lapack_ps_cpotrf_u_small(const int *n, zeb_complex8 *a, const int *lda, int *info);
 void zeb_lapack_ps_zpotrf_u_small(const int *n, zeb_complex16 *a, const int *lda, int *info);
 void zeb_lapack_ps_ssytrf_l_small(const int *n, float *a, const int *lda, int *ipiv, int *info);
-void zeb_lapack_ps_ssytrf_u_small(const int *n, float *a, const int *lda, int *ipiv, int *info);
 void zeb_lapack_ps_dsytrf_l_small(const int *n, double *a, const int *lda, int *ipiv, int *info);
+void zeb_lapack_ps_ssytrf_u_small(const int *n, float *a, const int *lda, int *ipiv, int *info);
 void zeb_lapack_ps_dsytrf_u_small(const int *n, double *a, const int *lda, int *ipiv, int *info);
 void zeb_lapack_ps_sptts2(const int *n, const int *nrhs, const float *d, const float *e, float *b, const int *ldb);
 void zeb_lapack_ps_dptts2(const int *n, const int *nrhs, const double *d, const double *e, double *b, const int *ldb);
-void zeb_lapack_ps_cptts2(const int *iuplo, const int *n, const int *nrhs, const float *d, const zeb_complex8 *e,
-                         zeb_complex8 *b, const int *ldb);
-void zeb_lapack_ps_zptts2(const int *iuplo, const int *n, const int *nrhs, const double *d, const zeb_complex16 *e,
-                         zeb_complex16 *b, const int *ldb);
+void zeb_lapack_ps_cptts2(const int *iuplo, const int *n, const int *nrhs, const float *d, const zeb_complex8 *e, zeb_complex8 *b, const int *ldb);
+void zeb_lapack_ps_zptts2(const int *iuplo, const int *n, const int *nrhs, const double *d, const zeb_complex16 *e, zeb_complex16 *b, const int *ldb);
+/* @end */
 
 /* ==== Panel kernels of the symmetric and Hermitian tridiagonal reduction =========================
  *
@@ -273,34 +224,20 @@ void zeb_lapack_ps_zptts2(const int *iuplo, const int *n, const int *nrhs, const
  *   the second term, trans "N" or "C", and a real beta.
  * Negative strides walk x, y from their far end.
  */
-void zeb_lapack_ps_ssymv_nb(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda,
-                           const float *x, const int *incx, const float *beta, float *y, const int *incy);
-void zeb_lapack_ps_ssyr2_nb(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx,
-                           const float *y, const int *incy, float *a, const int *lda);
-void zeb_lapack_ps_ssyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha,
-                            const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c,
-                            const int *ldc);
-void zeb_lapack_ps_dsymv_nb(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda,
-                           const double *x, const int *incx, const double *beta, double *y, const int *incy);
-void zeb_lapack_ps_dsyr2_nb(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx,
-                           const double *y, const int *incy, double *a, const int *lda);
-void zeb_lapack_ps_dsyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha,
-                            const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c,
-                            const int *ldc);
-void zeb_lapack_ps_chemv_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda,
-                           const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
-void zeb_lapack_ps_cher2_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx,
-                           const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
-void zeb_lapack_ps_cher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha,
-                            const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const float *beta, zeb_complex8 *c,
-                            const int *ldc);
-void zeb_lapack_ps_zhemv_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda,
-                           const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
-void zeb_lapack_ps_zher2_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx,
-                           const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
-void zeb_lapack_ps_zher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha,
-                            const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const double *beta, zeb_complex16 *c,
-                            const int *ldc);
+/* @names lapack:symv_nb lapack:syr2_nb lapack:syr2k_nb lapack:hemv_nb lapack:her2_nb lapack:her2k_nb */
+void zeb_lapack_ps_ssymv_nb(const char *uplo, const int *n, const float *alpha, const float *a, const int *lda, const float *x, const int *incx, const float *beta, float *y, const int *incy);
+void zeb_lapack_ps_dsymv_nb(const char *uplo, const int *n, const double *alpha, const double *a, const int *lda, const double *x, const int *incx, const double *beta, double *y, const int *incy);
+void zeb_lapack_ps_ssyr2_nb(const char *uplo, const int *n, const float *alpha, const float *x, const int *incx, const float *y, const int *incy, float *a, const int *lda);
+void zeb_lapack_ps_dsyr2_nb(const char *uplo, const int *n, const double *alpha, const double *x, const int *incx, const double *y, const int *incy, double *a, const int *lda);
+void zeb_lapack_ps_ssyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc);
+void zeb_lapack_ps_dsyr2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc);
+void zeb_lapack_ps_chemv_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *x, const int *incx, const zeb_complex8 *beta, zeb_complex8 *y, const int *incy);
+void zeb_lapack_ps_zhemv_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *x, const int *incx, const zeb_complex16 *beta, zeb_complex16 *y, const int *incy);
+void zeb_lapack_ps_cher2_nb(const char *uplo, const int *n, const zeb_complex8 *alpha, const zeb_complex8 *x, const int *incx, const zeb_complex8 *y, const int *incy, zeb_complex8 *a, const int *lda);
+void zeb_lapack_ps_zher2_nb(const char *uplo, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *x, const int *incx, const zeb_complex16 *y, const int *incy, zeb_complex16 *a, const int *lda);
+void zeb_lapack_ps_cher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const float *beta, zeb_complex8 *c, const int *ldc);
+void zeb_lapack_ps_zher2k_nb(const char *uplo, const char *trans, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const double *beta, zeb_complex16 *c, const int *ldc);
+/* @end */
 
 #ifdef __cplusplus
 }

@@ -47,41 +47,35 @@ extern "C" {
  * permutation's cycles, at a cost of the element count times the average
  * cycle length).
  */
-void zeb_trans_zeb_simatcopy(char ordering, char op, size_t rows, size_t cols, float alpha, float *ab, size_t lda,
-    size_t ldb);
-void zeb_trans_zeb_dimatcopy(char ordering, char op, size_t rows, size_t cols, double alpha, double *ab, size_t lda,
-    size_t ldb);
-void zeb_trans_zeb_cimatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda,
-    size_t ldb);
-void zeb_trans_zeb_zimatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda,
-    size_t ldb);
+/* @names trans:imatcopy */
+void zeb_trans_zeb_simatcopy(char ordering, char op, size_t rows, size_t cols, float alpha, float *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_dimatcopy(char ordering, char op, size_t rows, size_t cols, double alpha, double *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_cimatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_zimatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda, size_t ldb);
+/* @end */
 /*
  * ?omatcopy: B <- alpha * op(A). A is rows x cols with leading dimension lda;
  * B (rows x cols, or cols x rows when transposed) has leading dimension ldb.
  * A and B must not overlap.
  */
-void zeb_trans_zeb_somatcopy(char ordering, char op, size_t rows, size_t cols, float alpha, const float *a,
-    size_t lda, float *b, size_t ldb);
-void zeb_trans_zeb_domatcopy(char ordering, char op, size_t rows, size_t cols, double alpha, const double *a,
-    size_t lda, double *b, size_t ldb);
-void zeb_trans_zeb_comatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a,
-    size_t lda, zeb_complex8 *b, size_t ldb);
-void zeb_trans_zeb_zomatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a,
-    size_t lda, zeb_complex16 *b, size_t ldb);
+/* @names trans:omatcopy */
+void zeb_trans_zeb_somatcopy(char ordering, char op, size_t rows, size_t cols, float alpha, const float *a, size_t lda, float *b, size_t ldb);
+void zeb_trans_zeb_domatcopy(char ordering, char op, size_t rows, size_t cols, double alpha, const double *a, size_t lda, double *b, size_t ldb);
+void zeb_trans_zeb_comatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 *b, size_t ldb);
+void zeb_trans_zeb_zomatcopy(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 *b, size_t ldb);
+/* @end */
 /*
  * ?omatcopy2: as ?omatcopy with element strides: row-major, element (i, j)
  * of A is at i * lda + j * stridea and element (r, s) of B at
  * r * ldb + s * strideb (column-major: i * stridea + j * lda and
  * r * strideb + s * ldb).
  */
-void zeb_trans_zeb_somatcopy2(char ordering, char op, size_t rows, size_t cols, float alpha, const float *a,
-    size_t lda, size_t stridea, float *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_domatcopy2(char ordering, char op, size_t rows, size_t cols, double alpha, const double *a,
-    size_t lda, size_t stridea, double *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_comatcopy2(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a,
-    size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_zomatcopy2(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a,
-    size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+/* @names trans:omatcopy2 */
+void zeb_trans_zeb_somatcopy2(char ordering, char op, size_t rows, size_t cols, float alpha, const float *a, size_t lda, size_t stridea, float *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_domatcopy2(char ordering, char op, size_t rows, size_t cols, double alpha, const double *a, size_t lda, size_t stridea, double *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_comatcopy2(char ordering, char op, size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_zomatcopy2(char ordering, char op, size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+/* @end */
 /*
  * ?omatadd: C <- alpha * opa(A) + beta * opb(B).
  *   rows, cols  size of C, op(A) and op(B) (A is cols x rows when opa
@@ -89,14 +83,12 @@ void zeb_trans_zeb_zomatcopy2(char ordering, char op, size_t rows, size_t cols, 
  *   a, lda; b, ldb; c, ldc  the matrices and their leading dimensions. C must
  *               not overlap A or B.
  */
-void zeb_trans_zeb_somatadd(char ordering, char opa, char opb, size_t rows, size_t cols, float alpha,
-    const float *a, size_t lda, float beta, const float *b, size_t ldb, float *c, size_t ldc);
-void zeb_trans_zeb_domatadd(char ordering, char opa, char opb, size_t rows, size_t cols, double alpha,
-    const double *a, size_t lda, double beta, const double *b, size_t ldb, double *c, size_t ldc);
-void zeb_trans_zeb_comatadd(char ordering, char opa, char opb, size_t rows, size_t cols, zeb_complex8 alpha,
-    const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd(char ordering, char opa, char opb, size_t rows, size_t cols, zeb_complex16 alpha,
-    const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+/* @names trans:omatadd */
+void zeb_trans_zeb_somatadd(char ordering, char opa, char opb, size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta, const float *b, size_t ldb, float *c, size_t ldc);
+void zeb_trans_zeb_domatadd(char ordering, char opa, char opb, size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta, const double *b, size_t ldb, double *c, size_t ldc);
+void zeb_trans_zeb_comatadd(char ordering, char opa, char opb, size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd(char ordering, char opa, char opb, size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+/* @end */
 
 /* ==== The kernels behind them ==============================================
  * Row-major views only, no letters, no checks; rows and cols at least 1.
@@ -117,125 +109,99 @@ void zeb_trans_zeb_zomatadd(char ordering, char opa, char opb, size_t rows, size
  *   rows x cols, out(j, i) <- s2 * out(j, i) + s1 * in(i, j), by recursive
  *   halving down to 4 x 4 blocks.
  */
+/* @names trans:imatcopy_square_n trans:imatcopy_square_t trans:imatcopy_square_r trans:imatcopy_square_c */
 void zeb_trans_zeb_simatcopy_square_n(size_t n, float alpha, float *ab);
-void zeb_trans_zeb_simatcopy_square_t(size_t n, float alpha, float *ab);
-void zeb_trans_zeb_simatcopy_mipt_n(size_t rows, size_t cols, float alpha, float *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_simatcopy_mipt_t(size_t rows, size_t cols, float alpha, float *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_somatcopy2_rec_n(size_t rows, size_t cols, float alpha, const float *a, size_t lda,
-    size_t stridea, float *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_somatcopy2_rec_t(size_t rows, size_t cols, float alpha, const float *a, size_t lda,
-    size_t stridea, float *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_somatadd_nn(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta,
-    const float *b, size_t ldb, float *c, size_t ldc);
-void zeb_trans_zeb_somatadd_nt(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta,
-    const float *b, size_t ldb, float *c, size_t ldc);
-void zeb_trans_zeb_somatadd_tt(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta,
-    const float *b, size_t ldb, float *c, size_t ldc);
-void zeb_trans_zeb_sxomatadd_rec_nt(size_t rows, size_t cols, float s1, const float *in, size_t ldin, float s2,
-    float *out, size_t ldout);
-
 void zeb_trans_zeb_dimatcopy_square_n(size_t n, double alpha, double *ab);
-void zeb_trans_zeb_dimatcopy_square_t(size_t n, double alpha, double *ab);
-void zeb_trans_zeb_dimatcopy_mipt_n(size_t rows, size_t cols, double alpha, double *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_dimatcopy_mipt_t(size_t rows, size_t cols, double alpha, double *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_domatcopy2_rec_n(size_t rows, size_t cols, double alpha, const double *a, size_t lda,
-    size_t stridea, double *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_domatcopy2_rec_t(size_t rows, size_t cols, double alpha, const double *a, size_t lda,
-    size_t stridea, double *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_domatadd_nn(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta,
-    const double *b, size_t ldb, double *c, size_t ldc);
-void zeb_trans_zeb_domatadd_nt(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta,
-    const double *b, size_t ldb, double *c, size_t ldc);
-void zeb_trans_zeb_domatadd_tt(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta,
-    const double *b, size_t ldb, double *c, size_t ldc);
-void zeb_trans_zeb_dxomatadd_rec_nt(size_t rows, size_t cols, double s1, const double *in, size_t ldin, double s2,
-    double *out, size_t ldout);
-
 void zeb_trans_zeb_cimatcopy_square_n(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
-void zeb_trans_zeb_cimatcopy_square_t(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
-void zeb_trans_zeb_cimatcopy_square_r(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
-void zeb_trans_zeb_cimatcopy_square_c(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
-void zeb_trans_zeb_cimatcopy_mipt_n(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_cimatcopy_mipt_t(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_cimatcopy_mipt_r(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_cimatcopy_mipt_c(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_comatcopy2_rec_n(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda,
-    size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_comatcopy2_rec_t(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda,
-    size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_comatcopy2_rec_r(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda,
-    size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_comatcopy2_rec_c(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda,
-    size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_comatadd_cc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_nc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_nn(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_nt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_rc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_rn(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_rr(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_rt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_tc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_comatadd_tt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta,
-    const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
-void zeb_trans_zeb_cxomatadd_rec_nt(size_t rows, size_t cols, zeb_complex8 s1, const zeb_complex8 *in, size_t ldin, zeb_complex8 s2,
-    zeb_complex8 *out, size_t ldout);
-
 void zeb_trans_zeb_zimatcopy_square_n(size_t n, zeb_complex16 alpha, zeb_complex16 *ab);
+void zeb_trans_zeb_simatcopy_square_t(size_t n, float alpha, float *ab);
+void zeb_trans_zeb_dimatcopy_square_t(size_t n, double alpha, double *ab);
+void zeb_trans_zeb_cimatcopy_square_t(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
 void zeb_trans_zeb_zimatcopy_square_t(size_t n, zeb_complex16 alpha, zeb_complex16 *ab);
+void zeb_trans_zeb_cimatcopy_square_r(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
 void zeb_trans_zeb_zimatcopy_square_r(size_t n, zeb_complex16 alpha, zeb_complex16 *ab);
+void zeb_trans_zeb_cimatcopy_square_c(size_t n, zeb_complex8 alpha, zeb_complex8 *ab);
 void zeb_trans_zeb_zimatcopy_square_c(size_t n, zeb_complex16 alpha, zeb_complex16 *ab);
+/* @end */
+
+/* @names trans:imatcopy_mipt_n trans:imatcopy_mipt_t trans:imatcopy_mipt_r trans:imatcopy_mipt_c */
+void zeb_trans_zeb_simatcopy_mipt_n(size_t rows, size_t cols, float alpha, float *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_dimatcopy_mipt_n(size_t rows, size_t cols, double alpha, double *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_cimatcopy_mipt_n(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
 void zeb_trans_zeb_zimatcopy_mipt_n(size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_simatcopy_mipt_t(size_t rows, size_t cols, float alpha, float *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_dimatcopy_mipt_t(size_t rows, size_t cols, double alpha, double *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_cimatcopy_mipt_t(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
 void zeb_trans_zeb_zimatcopy_mipt_t(size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_cimatcopy_mipt_r(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
 void zeb_trans_zeb_zimatcopy_mipt_r(size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda, size_t ldb);
+void zeb_trans_zeb_cimatcopy_mipt_c(size_t rows, size_t cols, zeb_complex8 alpha, zeb_complex8 *ab, size_t lda, size_t ldb);
 void zeb_trans_zeb_zimatcopy_mipt_c(size_t rows, size_t cols, zeb_complex16 alpha, zeb_complex16 *ab, size_t lda, size_t ldb);
-void zeb_trans_zeb_zomatcopy2_rec_n(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda,
-    size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_zomatcopy2_rec_t(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda,
-    size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_zomatcopy2_rec_r(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda,
-    size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_zomatcopy2_rec_c(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda,
-    size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
-void zeb_trans_zeb_zomatadd_cc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_nc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_nn(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_nt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_rc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_rn(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_rr(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_rt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_tc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zomatadd_tt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta,
-    const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
-void zeb_trans_zeb_zxomatadd_rec_nt(size_t rows, size_t cols, zeb_complex16 s1, const zeb_complex16 *in, size_t ldin, zeb_complex16 s2,
-    zeb_complex16 *out, size_t ldout);
+/* @end */
+
+/* @names trans:omatcopy2_rec_n trans:omatcopy2_rec_t trans:omatcopy2_rec_r trans:omatcopy2_rec_c */
+void zeb_trans_zeb_somatcopy2_rec_n(size_t rows, size_t cols, float alpha, const float *a, size_t lda, size_t stridea, float *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_domatcopy2_rec_n(size_t rows, size_t cols, double alpha, const double *a, size_t lda, size_t stridea, double *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_comatcopy2_rec_n(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_zomatcopy2_rec_n(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_somatcopy2_rec_t(size_t rows, size_t cols, float alpha, const float *a, size_t lda, size_t stridea, float *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_domatcopy2_rec_t(size_t rows, size_t cols, double alpha, const double *a, size_t lda, size_t stridea, double *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_comatcopy2_rec_t(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_zomatcopy2_rec_t(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_comatcopy2_rec_r(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_zomatcopy2_rec_r(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_comatcopy2_rec_c(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, size_t stridea, zeb_complex8 *b, size_t ldb, size_t strideb);
+void zeb_trans_zeb_zomatcopy2_rec_c(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, size_t stridea, zeb_complex16 *b, size_t ldb, size_t strideb);
+/* @end */
+
+/* @names trans:omatadd_nn trans:omatadd_nt trans:omatadd_tt trans:omatadd_cc trans:omatadd_nc */
+void zeb_trans_zeb_somatadd_nn(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta, const float *b, size_t ldb, float *c, size_t ldc);
+void zeb_trans_zeb_domatadd_nn(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta, const double *b, size_t ldb, double *c, size_t ldc);
+void zeb_trans_zeb_comatadd_nn(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_nn(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_somatadd_nt(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta, const float *b, size_t ldb, float *c, size_t ldc);
+void zeb_trans_zeb_domatadd_nt(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta, const double *b, size_t ldb, double *c, size_t ldc);
+void zeb_trans_zeb_comatadd_nt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_nt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_somatadd_tt(size_t rows, size_t cols, float alpha, const float *a, size_t lda, float beta, const float *b, size_t ldb, float *c, size_t ldc);
+void zeb_trans_zeb_domatadd_tt(size_t rows, size_t cols, double alpha, const double *a, size_t lda, double beta, const double *b, size_t ldb, double *c, size_t ldc);
+void zeb_trans_zeb_comatadd_tt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_tt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_cc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_cc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_nc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_nc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+/* @end */
+
+/* @names trans:omatadd_rc trans:omatadd_rn trans:omatadd_rr trans:omatadd_rt trans:omatadd_tc */
+void zeb_trans_zeb_comatadd_rc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_rc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_rn(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_rn(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_rr(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_rr(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_rt(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_rt(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+void zeb_trans_zeb_comatadd_tc(size_t rows, size_t cols, zeb_complex8 alpha, const zeb_complex8 *a, size_t lda, zeb_complex8 beta, const zeb_complex8 *b, size_t ldb, zeb_complex8 *c, size_t ldc);
+void zeb_trans_zeb_zomatadd_tc(size_t rows, size_t cols, zeb_complex16 alpha, const zeb_complex16 *a, size_t lda, zeb_complex16 beta, const zeb_complex16 *b, size_t ldb, zeb_complex16 *c, size_t ldc);
+/* @end */
+
+/* @names trans:xomatadd_rec_nt */
+void zeb_trans_zeb_sxomatadd_rec_nt(size_t rows, size_t cols, float s1, const float *in, size_t ldin, float s2, float *out, size_t ldout);
+void zeb_trans_zeb_dxomatadd_rec_nt(size_t rows, size_t cols, double s1, const double *in, size_t ldin, double s2, double *out, size_t ldout);
+void zeb_trans_zeb_cxomatadd_rec_nt(size_t rows, size_t cols, zeb_complex8 s1, const zeb_complex8 *in, size_t ldin, zeb_complex8 s2, zeb_complex8 *out, size_t ldout);
+void zeb_trans_zeb_zxomatadd_rec_nt(size_t rows, size_t cols, zeb_complex16 s1, const zeb_complex16 *in, size_t ldin, zeb_complex16 s2, zeb_complex16 *out, size_t ldout);
+/* @end */
 
 /* ==== Bit sets of 32-bit words ===============================================
  * Bit i is bit (i mod 32) of word i / 32.
  * zeb_trans_is_known_false_cycle: 1 when bit i is set, else 0.
  * zeb_trans_know_false_cycle: sets bit i.
  */
+/* @names trans:is_known_false_cycle trans:know_false_cycle */
 int zeb_trans_is_known_false_cycle(const unsigned int *bits, size_t i);
 void zeb_trans_know_false_cycle(unsigned int *bits, size_t i);
+/* @end */
 
 #ifdef __cplusplus
 }

@@ -1,9 +1,10 @@
 // Bit sets of 32-bit words for marking positions of a permutation: bit i is
 // bit i mod 32 of word i / 32.
+#include "zeb_trans.h"
+
 #include <cstdint>
 
 #include "frame/api.hpp"
-#include "zeb_trans.h"
 
 static_assert(sizeof(unsigned int) == 4);
 

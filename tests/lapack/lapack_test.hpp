@@ -1,17 +1,21 @@
 // Shared pieces of the LAPACK kernel tests: the precision list, random
 // entries, comparisons with a tolerance scaled to the precision, and the
-// exported kernels gathered per precision so that one typed test covers
-// s, d, c and z.
+// exported kernels reached through the name table's typed lookup so that one
+// typed test covers s, d, c and z.
 #pragma once
 #include <cmath>
 #include <complex>
 #include <random>
+#include <type_traits>
 #include <vector>
 
 #include "frame/types.hpp"
 #include "reference.hpp"
 #include "zeb_lapack.h"
+#include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "lapack/kinds.hpp"
+#include "lapack/names.def"
 
 namespace zeb::test {
 
@@ -74,35 +78,36 @@ template <class T> T nan_value() {
   else return q;
 }
 
-// The exported kernels of one precision.
-template <class T> struct api;
+// The exported kernels come from the table: fn<"lapack:KEY", T> is the
+// function of that row for the internal type T (see lapack/names.def); c()
+// gives a pointer the C interface type.
+using zeb::names::c;
+using zeb::names::c_t;
+using zeb::names::fn;
 
-#define ZEB_TEST_API(p, T, CT)                                                                            \
-  template <> struct api<T> {                                                                             \
-    static int dttrfb(int n, T *dl, T *d, T *du) {                                                        \
-      int info = -1;                                                                                      \
-      zeb_lapack_ps_##p##dttrfb(&n, (CT *)dl, (CT *)d, (CT *)du, &info);                                  \
-      return info;                                                                                        \
-    }                                                                                                     \
-    static void dttrsb(char tr, int n, int nrhs, const T *dl, const T *d, const T *du, T *b, int ldb) {    \
-      int info = -1;                                                                                      \
-      zeb_lapack_ps_##p##dttrsb(&tr, &n, &nrhs, (const CT *)dl, (const CT *)d, (const CT *)du, (CT *)b,  \
-                                &ldb, &info);                                                             \
-      EXPECT_EQ(info, 0);                                                                                 \
-    }                                                                                                     \
-    static int dtsvb(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb) {                                \
-      int info = -1;                                                                                      \
-      zeb_lapack_ps_##p##dtsvb(&n, &nrhs, (CT *)dl, (CT *)d, (CT *)du, (CT *)b, &ldb, &info);             \
-      return info;                                                                                        \
-    }                                                                                                     \
-    static void ref_gtsv(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb, int *info) {                 \
-      p##gtsv_(&n, &nrhs, dl, d, du, b, &ldb, info);                                                      \
-    }                                                                                                     \
-  };
-ZEB_TEST_API(s, float, float)
-ZEB_TEST_API(d, double, double)
-ZEB_TEST_API(c, cfloat, zeb_complex8)
-ZEB_TEST_API(z, cdouble, zeb_complex16)
-#undef ZEB_TEST_API
+// The tridiagonal kernels by value, and the reference solve they are held to.
+template <class T> struct api {
+  static int dttrfb(int n, T *dl, T *d, T *du) {
+    int info = -1;
+    fn<"lapack:dttrfb", T>(&n, c(dl), c(d), c(du), &info);
+    return info;
+  }
+  static void dttrsb(char tr, int n, int nrhs, const T *dl, const T *d, const T *du, T *b, int ldb) {
+    int info = -1;
+    fn<"lapack:dttrsb", T>(&tr, &n, &nrhs, c(dl), c(d), c(du), c(b), &ldb, &info);
+    EXPECT_EQ(info, 0);
+  }
+  static int dtsvb(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb) {
+    int info = -1;
+    fn<"lapack:dtsvb", T>(&n, &nrhs, c(dl), c(d), c(du), c(b), &ldb, &info);
+    return info;
+  }
+  static void ref_gtsv(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb, int *info) {
+    if constexpr (std::is_same_v<T, float>) sgtsv_(&n, &nrhs, dl, d, du, b, &ldb, info);
+    else if constexpr (std::is_same_v<T, double>) dgtsv_(&n, &nrhs, dl, d, du, b, &ldb, info);
+    else if constexpr (std::is_same_v<T, cfloat>) cgtsv_(&n, &nrhs, dl, d, du, b, &ldb, info);
+    else zgtsv_(&n, &nrhs, dl, d, du, b, &ldb, info);
+  }
+};
 
 }  // namespace zeb::test

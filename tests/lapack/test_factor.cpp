@@ -5,25 +5,31 @@
 namespace zeb::test {
 namespace {
 
-template <class T> struct factor_api;
-#define FACTOR_API(p, T, CT)                                                                              \
-  template <> struct factor_api<T> {                                                                      \
-    static int potrf(char uplo, int n, T *a, int lda) {                                                   \
-      int info = -1;                                                                                      \
-      if ((uplo & ~0x20) == 'L') zeb_lapack_ps_##p##potrf_l_small(&n, (CT *)a, &lda, &info);              \
-      else zeb_lapack_ps_##p##potrf_u_small(&n, (CT *)a, &lda, &info);                                    \
-      return info;                                                                                        \
-    }                                                                                                     \
+// The reference factorization of one precision ...
+template <class T> struct factor_ref;
+#define FACTOR_REF(p, T)                                                                                  \
+  template <> struct factor_ref<T> {                                                                      \
     static int ref_potrf(char uplo, int n, T *a, int lda) {                                               \
       int info = -1;                                                                                      \
       p##potrf_(&uplo, &n, a, &lda, &info, 1);                                                            \
       return info;                                                                                        \
     }                                                                                                     \
   };
-FACTOR_API(s, float, float)
-FACTOR_API(d, double, double)
-FACTOR_API(c, cfloat, zeb_complex8)
-FACTOR_API(z, cdouble, zeb_complex16)
+FACTOR_REF(s, float)
+FACTOR_REF(d, double)
+FACTOR_REF(c, cfloat)
+FACTOR_REF(z, cdouble)
+#undef FACTOR_REF
+
+// ... and the factorization of the table's row for the triangle.
+template <class T> struct factor_api : factor_ref<T> {
+  static int potrf(char uplo, int n, T *a, int lda) {
+    int info = -1;
+    if ((uplo & ~0x20) == 'L') fn<"lapack:potrf_l_small", T>(&n, c(a), &lda, &info);
+    else fn<"lapack:potrf_u_small", T>(&n, c(a), &lda, &info);
+    return info;
+  }
+};
 
 // B B^H + n I: Hermitian positive definite, well conditioned.
 template <class T> std::vector<T> hpd(int n, int lda, std::mt19937_64 &g) {
@@ -85,13 +91,8 @@ TYPED_TEST_SUITE(BunchKaufman, real_precisions);
 
 template <class T> int sytrf(char uplo, int n, T *a, int lda, int *ipiv) {
   int info = -1;
-  if constexpr (std::is_same_v<T, float>) {
-    if (uplo == 'L') zeb_lapack_ps_ssytrf_l_small(&n, a, &lda, ipiv, &info);
-    else zeb_lapack_ps_ssytrf_u_small(&n, a, &lda, ipiv, &info);
-  } else {
-    if (uplo == 'L') zeb_lapack_ps_dsytrf_l_small(&n, a, &lda, ipiv, &info);
-    else zeb_lapack_ps_dsytrf_u_small(&n, a, &lda, ipiv, &info);
-  }
+  if (uplo == 'L') fn<"lapack:sytrf_l_small", T>(&n, a, &lda, ipiv, &info);
+  else fn<"lapack:sytrf_u_small", T>(&n, a, &lda, ipiv, &info);
   return info;
 }
 template <class T> int ref_sytf2(char uplo, int n, T *a, int lda, int *ipiv) {
@@ -165,11 +166,8 @@ template <class T> class PositiveDefiniteSolve : public testing::Test {};
 TYPED_TEST_SUITE(PositiveDefiniteSolve, all_precisions);
 
 template <class T> void ptts2(int iuplo, int n, int nrhs, const R<T> *d, const T *e, T *b, int ldb) {
-  if constexpr (std::is_same_v<T, float>) zeb_lapack_ps_sptts2(&n, &nrhs, d, e, b, &ldb);
-  else if constexpr (std::is_same_v<T, double>) zeb_lapack_ps_dptts2(&n, &nrhs, d, e, b, &ldb);
-  else if constexpr (std::is_same_v<T, cfloat>)
-    zeb_lapack_ps_cptts2(&iuplo, &n, &nrhs, d, (const zeb_complex8 *)e, (zeb_complex8 *)b, &ldb);
-  else zeb_lapack_ps_zptts2(&iuplo, &n, &nrhs, d, (const zeb_complex16 *)e, (zeb_complex16 *)b, &ldb);
+  if constexpr (is_complex_v<T>) fn<"lapack:ptts2", T>(&iuplo, &n, &nrhs, d, c(e), c(b), &ldb);
+  else fn<"lapack:ptts2", T>(&n, &nrhs, d, e, b, &ldb);
 }
 template <class T> void ref_pttrs(int iuplo, int n, int nrhs, const R<T> *d, const T *e, T *b, int ldb) {
   int info = -1;

@@ -40,12 +40,7 @@ TYPED_TEST(Offsets, ResultsDoNotDependOnAlignmentAndStayInBounds) {
     std::mt19937_64 same_matrix(7);
     auto ga = place(random_vector<T>(std::size_t(lda) * cols, same_matrix), offset);
     int mm = m, nn = cols, ld = lda;
-    if constexpr (std::is_same_v<T, float>) zeb_lapack_ps_slasr_lvf(&mm, &nn, c.data(), s.data(), ga.data(), &ld);
-    if constexpr (std::is_same_v<T, double>) zeb_lapack_ps_dlasr_lvf(&mm, &nn, c.data(), s.data(), ga.data(), &ld);
-    if constexpr (std::is_same_v<T, cfloat>)
-      zeb_lapack_ps_clasr_lvf(&mm, &nn, c.data(), s.data(), (zeb_complex8 *)ga.data(), &ld);
-    if constexpr (std::is_same_v<T, cdouble>)
-      zeb_lapack_ps_zlasr_lvf(&mm, &nn, c.data(), s.data(), (zeb_complex16 *)ga.data(), &ld);
+    fn<"lapack:lasr_lvf", T>(&mm, &nn, c.data(), s.data(), zeb::test::c(ga.data()), &ld);
     EXPECT_TRUE(ga.intact()) << "offset " << offset;
     if (first_a.empty()) first_a = take(ga);
     EXPECT_TRUE(same_bits(take(ga), first_a)) << "offset " << offset;

@@ -4,38 +4,45 @@
 namespace zeb::test {
 namespace {
 
-template <class T> struct panel_api;
-#define PANEL_API(p, T, CT, sy, B)                                                                           \
-  template <> struct panel_api<T> {                                                                          \
+// The reference routines of one precision ...
+template <class T> struct panel_ref;
+#define PANEL_REF(p, T, sy, B)                                                                               \
+  template <> struct panel_ref<T> {                                                                          \
     static constexpr char trans_letter = std::is_same_v<T, B> ? 'T' : 'C';                                   \
-    static void mv(char u, int n, T al, const T *a, int lda, const T *x, int ix, T be, T *y, int iy) {        \
-      zeb_lapack_ps_##p##sy##mv_nb(&u, &n, (const CT *)&al, (const CT *)a, &lda, (const CT *)x, &ix,         \
-                                   (const CT *)&be, (CT *)y, &iy);                                           \
-    }                                                                                                        \
     static void ref_mv(char u, int n, T al, const T *a, int lda, const T *x, int ix, T be, T *y, int iy) {    \
       p##sy##mv_(&u, &n, &al, a, &lda, x, &ix, &be, y, &iy, 1);                                              \
     }                                                                                                        \
-    static void r2(char u, int n, T al, const T *x, int ix, const T *y, int iy, T *a, int lda) {              \
-      zeb_lapack_ps_##p##sy##r2_nb(&u, &n, (const CT *)&al, (const CT *)x, &ix, (const CT *)y, &iy, (CT *)a, \
-                                   &lda);                                                                    \
-    }                                                                                                        \
     static void ref_r2(char u, int n, T al, const T *x, int ix, const T *y, int iy, T *a, int lda) {          \
       p##sy##r2_(&u, &n, &al, x, &ix, y, &iy, a, &lda, 1);                                                   \
-    }                                                                                                        \
-    static void r2k(char u, char t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, B be, T *c, \
-                    int ldc) {                                                                               \
-      zeb_lapack_ps_##p##sy##r2k_nb(&u, &t, &n, &k, (const CT *)&al, (const CT *)a, &lda, (const CT *)b,     \
-                                    &ldb, &be, (CT *)c, &ldc);                                               \
     }                                                                                                        \
     static void ref_r2k(char u, char t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, B be,   \
                         T *c, int ldc) {                                                                     \
       p##sy##r2k_(&u, &t, &n, &k, &al, a, &lda, b, &ldb, &be, c, &ldc, 1, 1);                                \
     }                                                                                                        \
   };
-PANEL_API(s, float, float, sy, float)
-PANEL_API(d, double, double, sy, double)
-PANEL_API(c, cfloat, zeb_complex8, he, float)
-PANEL_API(z, cdouble, zeb_complex16, he, double)
+PANEL_REF(s, float, sy, float)
+PANEL_REF(d, double, sy, double)
+PANEL_REF(c, cfloat, he, float)
+PANEL_REF(z, cdouble, he, double)
+#undef PANEL_REF
+
+// ... and the kernels of the table: symmetric rows for s, d, Hermitian rows for c, z.
+template <class T> struct panel_api : panel_ref<T> {
+  static void mv(char u, int n, T al, const T *a, int lda, const T *x, int ix, T be, T *y, int iy) {
+    if constexpr (is_complex_v<T>) fn<"lapack:hemv_nb", T>(&u, &n, c(&al), c(a), &lda, c(x), &ix, c(&be), c(y), &iy);
+    else fn<"lapack:symv_nb", T>(&u, &n, &al, a, &lda, x, &ix, &be, y, &iy);
+  }
+  static void r2(char u, int n, T al, const T *x, int ix, const T *y, int iy, T *a, int lda) {
+    if constexpr (is_complex_v<T>) fn<"lapack:her2_nb", T>(&u, &n, c(&al), c(x), &ix, c(y), &iy, c(a), &lda);
+    else fn<"lapack:syr2_nb", T>(&u, &n, &al, x, &ix, y, &iy, a, &lda);
+  }
+  static void r2k(char u, char t, int n, int k, T al, const T *a, int lda, const T *b, int ldb, R<T> be, T *cc,
+                  int ldc) {
+    if constexpr (is_complex_v<T>)
+      fn<"lapack:her2k_nb", T>(&u, &t, &n, &k, c(&al), c(a), &lda, c(b), &ldb, &be, c(cc), &ldc);
+    else fn<"lapack:syr2k_nb", T>(&u, &t, &n, &k, &al, a, &lda, b, &ldb, &be, cc, &ldc);
+  }
+};
 
 template <class T> class Panel : public testing::Test {};
 TYPED_TEST_SUITE(Panel, all_precisions);

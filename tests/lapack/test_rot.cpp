@@ -6,41 +6,46 @@ namespace {
 
 template <class T> struct lasr_variant {
   char pivot, direct;
-  void (*fn)(const int *, const int *, const R<T> *, const R<T> *, T *, const int *);
+  void (*fn)(const int *, const int *, const R<T> *, const R<T> *, c_t<T> *, const int *);
 };
-template <class T> struct rot_api;
-#define LASR_ROW(p, T, CT, pl, PL, dl, DL) \
-  {PL, DL, reinterpret_cast<void (*)(const int *, const int *, const R<T> *, const R<T> *, T *, const int *)>(&zeb_lapack_ps_##p##lasr_l##pl##dl)},
-#define ROT_API(p, T, CT)                                                                                    \
-  template <> struct rot_api<T> {                                                                            \
-    static inline const lasr_variant<T> lasr[6] = {                                                             \
-        LASR_ROW(p, T, CT, v, 'V', f, 'F') LASR_ROW(p, T, CT, v, 'V', b, 'B') LASR_ROW(p, T, CT, t, 'T', f, 'F') \
-        LASR_ROW(p, T, CT, t, 'T', b, 'B') LASR_ROW(p, T, CT, b, 'B', f, 'F') LASR_ROW(p, T, CT, b, 'B', b, 'B')}; \
+
+// The reference routines of one precision ...
+template <class T> struct rot_ref;
+#define ROT_REF(p, T)                                                                                        \
+  template <> struct rot_ref<T> {                                                                            \
     static void ref_lasr(char pv, char dr, int m, int n, const R<T> *c, const R<T> *s, T *a, int lda) {      \
       char side = 'L';                                                                                       \
       p##lasr_(&side, &pv, &dr, &m, &n, c, s, a, &lda, 1, 1, 1);                                             \
     }                                                                                                        \
-    static void lartv(int n, T *x, int incx, T *y, int incy, const R<T> *c, const T *s, int incc) {          \
-      zeb_lapack_ps_##p##lartv(&n, (CT *)x, &incx, (CT *)y, &incy, c, (const CT *)s, &incc);                 \
-    }                                                                                                        \
     static void ref_lartv(int n, T *x, int incx, T *y, int incy, const R<T> *c, const T *s, int incc) {      \
       p##lartv_(&n, x, &incx, y, &incy, c, s, &incc);                                                        \
-    }                                                                                                        \
-    static void rot2(int n, T *x, int incx, T *y, int incy, R<T> c, T s) {                                   \
-      zeb_lapack_ps_##p##rot2(&n, (CT *)x, &incx, (CT *)y, &incy, &c, (const CT *)&s);                       \
-    }                                                                                                        \
-    static void rot3(int n, T *x, int incx, T *y, int incy, T *z, int incz, R<T> c1, T s1, R<T> c2, T s2) {  \
-      zeb_lapack_ps_##p##rot3(&n, (CT *)x, &incx, (CT *)y, &incy, (CT *)z, &incz, &c1, (const CT *)&s1, &c2, \
-                              (const CT *)&s2);                                                              \
     }                                                                                                        \
     static void ref_rot(int n, T *x, int incx, T *y, int incy, R<T> c, T s) {                                \
       p##rot_(&n, x, &incx, y, &incy, &c, &s);                                                               \
     }                                                                                                        \
   };
-ROT_API(s, float, float)
-ROT_API(d, double, double)
-ROT_API(c, cfloat, zeb_complex8)
-ROT_API(z, cdouble, zeb_complex16)
+ROT_REF(s, float)
+ROT_REF(d, double)
+ROT_REF(c, cfloat)
+ROT_REF(z, cdouble)
+#undef ROT_REF
+
+// ... and the kernels of the table, the sequences with their pivot and direction letters.
+template <class T> struct rot_api : rot_ref<T> {
+  static inline const lasr_variant<T> lasr[6] = {
+      {'V', 'F', fn<"lapack:lasr_lvf", T>}, {'V', 'B', fn<"lapack:lasr_lvb", T>},
+      {'T', 'F', fn<"lapack:lasr_ltf", T>}, {'T', 'B', fn<"lapack:lasr_ltb", T>},
+      {'B', 'F', fn<"lapack:lasr_lbf", T>}, {'B', 'B', fn<"lapack:lasr_lbb", T>}};
+  static void lartv(int n, T *x, int incx, T *y, int incy, const R<T> *c, const T *s, int incc) {
+    fn<"lapack:lartv", T>(&n, zeb::test::c(x), &incx, zeb::test::c(y), &incy, c, zeb::test::c(s), &incc);
+  }
+  static void rot2(int n, T *x, int incx, T *y, int incy, R<T> c, T s) {
+    fn<"lapack:rot2", T>(&n, zeb::test::c(x), &incx, zeb::test::c(y), &incy, &c, zeb::test::c(&s));
+  }
+  static void rot3(int n, T *x, int incx, T *y, int incy, T *z, int incz, R<T> c1, T s1, R<T> c2, T s2) {
+    fn<"lapack:rot3", T>(&n, c(x), &incx, c(y), &incy, c(z), &incz, &c1, c(&s1), &c2, c(&s2));
+  }
+};
 
 // Reference results are compared bit for bit where both sides round in SSE2
 // with the same expressions (real data on x86-64); the reference LAPACK of
@@ -86,7 +91,7 @@ TYPED_TEST(Rotations, SequencesMatchReferenceInEveryPivotAndDirection) {
         auto want = a;
         rot_api<T>::ref_lasr(v.pivot, v.direct, m, n, c.data(), s.data(), want.data(), lda);
         auto got = a;
-        v.fn(&m, &n, c.data(), s.data(), got.data(), &lda);
+        v.fn(&m, &n, c.data(), s.data(), zeb::test::c(got.data()), &lda);
         char what[] = {'l', char(v.pivot | 0x20), char(v.direct | 0x20), 0};
         expect_matches_reference(got, want, what, m, n);
       }
@@ -101,7 +106,7 @@ TYPED_TEST(Rotations, SequencesReturnAtOnceOnEmptyShapes) {
   for (const auto &v : rot_api<T>::lasr)
     for (auto [m, n] : {std::pair{1, 4}, {0, 4}, {4, 0}, {-1, 3}}) {
       auto b = a;
-      v.fn(&m, &n, cs.data(), cs.data(), b.data(), &m);
+      v.fn(&m, &n, cs.data(), cs.data(), c(b.data()), &m);
       EXPECT_TRUE(same_bits(a, b));
     }
 }

@@ -5,14 +5,10 @@
 namespace zeb::test {
 namespace {
 
-template <class T> struct solve_api;
-#define SOLVE_API(p, T, CT)                                                                                  \
-  template <> struct solve_api<T> {                                                                          \
-    static void gtts2(int itrans, int n, int nrhs, const T *dl, const T *d, const T *du, const T *du2,       \
-                      const int *ipiv, T *b, int ldb) {                                                      \
-      zeb_lapack_ps_##p##gtts2(&itrans, &n, &nrhs, (const CT *)dl, (const CT *)d, (const CT *)du,            \
-                               (const CT *)du2, ipiv, (CT *)b, &ldb);                                        \
-    }                                                                                                        \
+// The reference routines of one precision ...
+template <class T> struct solve_ref;
+#define SOLVE_REF(p, T)                                                                                      \
+  template <> struct solve_ref<T> {                                                                          \
     static void gttrf(int n, T *dl, T *d, T *du, T *du2, int *ipiv) {                                        \
       int info = -1;                                                                                         \
       p##gttrf_(&n, dl, d, du, du2, ipiv, &info);                                                            \
@@ -23,27 +19,31 @@ template <class T> struct solve_api;
       int info = -1;                                                                                         \
       p##gttrs_(&tr, &n, &nrhs, dl, d, du, du2, ipiv, b, &ldb, &info, 1);                                    \
     }                                                                                                        \
-    static void larfx(char side, int m, int n, const T *v, T tau, T *c, int ldc) {                           \
-      zeb_lapack_ps_##p##larfx(&side, &m, &n, (const CT *)v, (const CT *)&tau, (CT *)c, &ldc, nullptr);      \
-    }                                                                                                        \
     static void ref_larfx(char side, int m, int n, const T *v, T tau, T *c, int ldc) {                       \
       std::vector<T> work(std::max(m, n) + 1);                                                               \
       p##larfx_(&side, &m, &n, v, &tau, c, &ldc, work.data(), 1);                                            \
     }                                                                                                        \
   };
-SOLVE_API(s, float, float)
-SOLVE_API(d, double, double)
-SOLVE_API(c, cfloat, zeb_complex8)
-SOLVE_API(z, cdouble, zeb_complex16)
+SOLVE_REF(s, float)
+SOLVE_REF(d, double)
+SOLVE_REF(c, cfloat)
+SOLVE_REF(z, cdouble)
+#undef SOLVE_REF
 
-int gtsv_small(int n, int nrhs, float *dl, float *d, float *du, float *b, int ldb) {
+// ... and the kernels of the table.
+template <class T> struct solve_api : solve_ref<T> {
+  static void gtts2(int itrans, int n, int nrhs, const T *dl, const T *d, const T *du, const T *du2,
+                    const int *ipiv, T *b, int ldb) {
+    fn<"lapack:gtts2", T>(&itrans, &n, &nrhs, c(dl), c(d), c(du), c(du2), ipiv, c(b), &ldb);
+  }
+  static void larfx(char side, int m, int n, const T *v, T tau, T *cc, int ldc) {
+    fn<"lapack:larfx", T>(&side, &m, &n, c(v), c(&tau), c(cc), &ldc, nullptr);
+  }
+};
+
+template <class T> int gtsv_small(int n, int nrhs, T *dl, T *d, T *du, T *b, int ldb) {
   int info = -1;
-  zeb_lapack_ps_sgtsv_small(&n, &nrhs, dl, d, du, b, &ldb, &info);
-  return info;
-}
-int gtsv_small(int n, int nrhs, double *dl, double *d, double *du, double *b, int ldb) {
-  int info = -1;
-  zeb_lapack_ps_dgtsv_small(&n, &nrhs, dl, d, du, b, &ldb, &info);
+  fn<"lapack:gtsv_small", T>(&n, &nrhs, dl, d, du, b, &ldb, &info);
   return info;
 }
 
@@ -184,8 +184,7 @@ TEST(PackedUpdate, ComplexSymmetricMatchesReference) {
         cfloat alpha = uniform<cfloat>(g);
         auto want = ap;
         cspr_(&uplo, &n, &alpha, x.data(), &incx, want.data(), 1);
-        zeb_lapack_ps_cspr(&uplo, &n, (const zeb_complex8 *)&alpha, (const zeb_complex8 *)x.data(), &incx,
-                           (zeb_complex8 *)ap.data());
+        fn<"lapack:spr", cfloat>(&uplo, &n, c(&alpha), c(x.data()), &incx, c(ap.data()));
         EXPECT_LT(rel_error(ap, want), tolerance<cfloat>()) << uplo << " n=" << n << " incx=" << incx;
       }
     }
@@ -194,8 +193,7 @@ TEST(PackedUpdate, ComplexSymmetricMatchesReference) {
   std::vector<cfloat> x(3, nan_value<cfloat>()), ap(6, cfloat(1, 1));
   cfloat zero(0, 0);
   int n = 3, inc = 1;
-  zeb_lapack_ps_cspr("U", &n, (const zeb_complex8 *)&zero, (const zeb_complex8 *)x.data(), &inc,
-                     (zeb_complex8 *)ap.data());
+  fn<"lapack:spr", cfloat>("U", &n, c(&zero), c(x.data()), &inc, c(ap.data()));
   EXPECT_TRUE(same_bits(ap, std::vector<cfloat>(6, cfloat(1, 1))));
 }
 

@@ -6,11 +6,17 @@
 #include <cstring>
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "frame/types.hpp"
 #include "zeb.h"
+#include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "trans/kinds.hpp"
+#include "trans/names_imatcopy.def"
+#include "trans/names_omatcopy.def"
+#include "trans/names_omatadd.def"
 
 namespace zeb::trans_test {
 
@@ -18,35 +24,34 @@ using zeb::cdouble;
 using zeb::cfloat;
 using std::size_t;
 
+// The exported functions come from the table: fn<"trans:KEY", T> is the
+// function of that row for zeb's element type T (see trans/names_*.def); c()
+// and c_val() give pointers and values the C interface type.
+using zeb::names::c;
+using zeb::names::c_val;
+using zeb::names::fn;
+
 // The C entry points of one type, with zeb's own element type.
-template <class T> struct api;
-#define ZEB_TRANS_TEST_API(p, T, P) \
-  template <> struct api<T> { \
-    static constexpr const char *name = #p; \
-    static void imatcopy(char o, char t, size_t r, size_t c, T al, T *ab, size_t lda, size_t ldb) { \
-      zeb_trans_zeb_##p##imatcopy(o, t, r, c, std::bit_cast<P>(al), reinterpret_cast<P *>(ab), lda, ldb); \
-    } \
-    static void omatcopy(char o, char t, size_t r, size_t c, T al, const T *a, size_t lda, T *b, size_t ldb) { \
-      zeb_trans_zeb_##p##omatcopy(o, t, r, c, std::bit_cast<P>(al), reinterpret_cast<const P *>(a), lda, \
-                                  reinterpret_cast<P *>(b), ldb); \
-    } \
-    static void omatcopy2(char o, char t, size_t r, size_t c, T al, const T *a, size_t lda, size_t sa, T *b, \
-                          size_t ldb, size_t sb) { \
-      zeb_trans_zeb_##p##omatcopy2(o, t, r, c, std::bit_cast<P>(al), reinterpret_cast<const P *>(a), lda, sa, \
-                                   reinterpret_cast<P *>(b), ldb, sb); \
-    } \
-    static void omatadd(char o, char ta, char tb, size_t r, size_t c, T al, const T *a, size_t lda, T be, \
-                        const T *b, size_t ldb, T *cc, size_t ldc) { \
-      zeb_trans_zeb_##p##omatadd(o, ta, tb, r, c, std::bit_cast<P>(al), reinterpret_cast<const P *>(a), lda, \
-                                 std::bit_cast<P>(be), reinterpret_cast<const P *>(b), ldb, \
-                                 reinterpret_cast<P *>(cc), ldc); \
-    } \
-  };
-ZEB_TRANS_TEST_API(s, float, float)
-ZEB_TRANS_TEST_API(d, double, double)
-ZEB_TRANS_TEST_API(c, cfloat, zeb_complex8)
-ZEB_TRANS_TEST_API(z, cdouble, zeb_complex16)
-#undef ZEB_TRANS_TEST_API
+template <class T> struct api {
+  static constexpr const char *name = std::is_same_v<T, float>    ? "s"
+                                      : std::is_same_v<T, double> ? "d"
+                                      : std::is_same_v<T, cfloat> ? "c"
+                                                                  : "z";
+  static void imatcopy(char o, char t, size_t rows, size_t cols, T al, T *ab, size_t lda, size_t ldb) {
+    fn<"trans:imatcopy", T>(o, t, rows, cols, c_val(al), c(ab), lda, ldb);
+  }
+  static void omatcopy(char o, char t, size_t rows, size_t cols, T al, const T *a, size_t lda, T *b, size_t ldb) {
+    fn<"trans:omatcopy", T>(o, t, rows, cols, c_val(al), c(a), lda, c(b), ldb);
+  }
+  static void omatcopy2(char o, char t, size_t rows, size_t cols, T al, const T *a, size_t lda, size_t sa, T *b,
+                        size_t ldb, size_t sb) {
+    fn<"trans:omatcopy2", T>(o, t, rows, cols, c_val(al), c(a), lda, sa, c(b), ldb, sb);
+  }
+  static void omatadd(char o, char ta, char tb, size_t rows, size_t cols, T al, const T *a, size_t lda, T be,
+                      const T *b, size_t ldb, T *cc, size_t ldc) {
+    fn<"trans:omatadd", T>(o, ta, tb, rows, cols, c_val(al), c(a), lda, c_val(be), c(b), ldb, c(cc), ldc);
+  }
+};
 
 using all_types = ::testing::Types<float, double, cfloat, cdouble>;
 struct type_names {

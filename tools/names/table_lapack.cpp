@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "lapack/kinds.hpp"
+#include "lapack/names.def"

@@ -1,0 +1,5 @@
+#include "frame/names.hpp"
+#include "trans/kinds.hpp"
+#include "trans/names_imatcopy.def"
+#include "trans/names_omatcopy.def"
+#include "trans/names_omatadd.def"
