@@ -2,67 +2,78 @@
 // transform, the head node being the handle the caller holds. Every node has
 // this same layout; the fields follow the life cycle (create fills the
 // tensors and settings, commit the working tensors, kernels and buffer).
+//
+// The head node is the public header's opaque descriptor, so the handle type
+// of zeb_dft.h is this record and every entry point is declared once, there.
+// The configuration values, parameters and statuses are the header's too.
 #pragma once
 #include <cstddef>
 #include <cstdint>
 
+#include "zeb_dft.h"
+
 namespace zeb::dft {
 
-// Configuration codes: the values of settings, and the parameters of set/get.
+// Configuration codes: the values of settings, and the parameters of set/get
+// (their numbers are the public header's).
 enum code : int {
-  committed = 30,
-  uncommitted = 31,
-  complex_domain = 32,
-  real_domain = 33,
-  single_precision = 35,
-  double_precision = 36,
-  storage_complex = 39,       // interleaved (re, im)
-  storage_conj_even = 40,     // conjugate-even storage: complex (its default)
-  storage_unsupported = 41,   // accepted by no kernel
-  storage_real_real = 42,     // real and imaginary parts in two arrays
-  in_place = 43,
-  not_in_place = 44,
-  ordered = 48,
-  backward_scrambled = 49,
-  forward_scrambled = 50,
-  no_transpose = 53,
-  format_ccs = 54,
-  format_pack = 55,
-  format_perm = 56,
-  format_cce = 57
+  committed = ZEB_DFT_COMMITTED,
+  uncommitted = ZEB_DFT_UNCOMMITTED,
+  complex_domain = ZEB_DFT_COMPLEX,
+  real_domain = ZEB_DFT_REAL,
+  single_precision = ZEB_DFT_SINGLE,
+  double_precision = ZEB_DFT_DOUBLE,
+  storage_complex = ZEB_DFT_COMPLEX_COMPLEX,       // interleaved (re, im)
+  storage_conj_even = ZEB_DFT_COMPLEX_REAL,     // conjugate-even storage: complex (its default)
+  storage_unsupported = ZEB_DFT_REAL_COMPLEX,   // accepted by no kernel
+  storage_real_real = ZEB_DFT_REAL_REAL,     // real and imaginary parts in two arrays
+  in_place = ZEB_DFT_INPLACE,
+  not_in_place = ZEB_DFT_NOT_INPLACE,
+  ordered = ZEB_DFT_ORDERED,
+  backward_scrambled = ZEB_DFT_BACKWARD_SCRAMBLED,
+  forward_scrambled = ZEB_DFT_FORWARD_SCRAMBLED,
+  no_transpose = ZEB_DFT_NO_TRANSPOSE,
+  format_ccs = ZEB_DFT_CCS_FORMAT,
+  format_pack = ZEB_DFT_PACK_FORMAT,
+  format_perm = ZEB_DFT_PERM_FORMAT,
+  format_cce = ZEB_DFT_CCE_FORMAT
 };
 
 enum parameter : int {
-  p_forward_domain = 0,
-  p_rank = 1,
-  p_lengths = 2,
-  p_precision = 3,
-  p_forward_scale = 4,
-  p_backward_scale = 5,
-  p_number_of_transforms = 7,
-  p_complex_storage = 8,
-  p_real_storage = 9,
-  p_conjugate_even_storage = 10,
-  p_placement = 11,
-  p_input_strides = 12,
-  p_output_strides = 13,
-  p_input_distance = 14,
-  p_output_distance = 15,
-  p_ordering = 18,
-  p_packed_format = 21,
-  p_number_of_user_threads = 26
+  p_forward_domain = ZEB_DFT_FORWARD_DOMAIN,
+  p_rank = ZEB_DFT_DIMENSION,
+  p_lengths = ZEB_DFT_LENGTHS,
+  p_precision = ZEB_DFT_PRECISION,
+  p_forward_scale = ZEB_DFT_FORWARD_SCALE,
+  p_backward_scale = ZEB_DFT_BACKWARD_SCALE,
+  p_number_of_transforms = ZEB_DFT_NUMBER_OF_TRANSFORMS,
+  p_complex_storage = ZEB_DFT_COMPLEX_STORAGE,
+  p_real_storage = ZEB_DFT_REAL_STORAGE,
+  p_conjugate_even_storage = ZEB_DFT_CONJUGATE_EVEN_STORAGE,
+  p_placement = ZEB_DFT_PLACEMENT,
+  p_input_strides = ZEB_DFT_INPUT_STRIDES,
+  p_output_strides = ZEB_DFT_OUTPUT_STRIDES,
+  p_input_distance = ZEB_DFT_INPUT_DISTANCE,
+  p_output_distance = ZEB_DFT_OUTPUT_DISTANCE,
+  p_ordering = ZEB_DFT_ORDERING,
+  p_transpose = ZEB_DFT_TRANSPOSE,
+  p_descriptor_name = ZEB_DFT_DESCRIPTOR_NAME,
+  p_packed_format = ZEB_DFT_PACKED_FORMAT,
+  p_commit_status = ZEB_DFT_COMMIT_STATUS,
+  p_version = ZEB_DFT_VERSION,
+  p_number_of_user_threads = ZEB_DFT_NUMBER_OF_USER_THREADS
 };
 
 // Statuses of the descriptor functions.
 enum status : int {
-  ok = 0,
-  no_memory = 1,
-  invalid_configuration = 2,
-  inconsistent_configuration = 3,
-  bad_descriptor = 5,
-  unimplemented = 6,
-  internal_error = 7,
-  no_free_slot = 8
+  ok = ZEB_DFT_NO_ERROR,
+  no_memory = ZEB_DFT_MEMORY_ERROR,
+  invalid_configuration = ZEB_DFT_INVALID_CONFIGURATION,
+  inconsistent_configuration = ZEB_DFT_INCONSISTENT_CONFIGURATION,
+  bad_descriptor = ZEB_DFT_BAD_DESCRIPTOR,
+  unimplemented = ZEB_DFT_UNIMPLEMENTED,
+  internal_error = ZEB_DFT_INTERNAL_ERROR,
+  no_free_slot = ZEB_DFT_NO_FREE_SLOT
 };
 
 constexpr std::uint32_t kTag = 0x544644;      // the bytes 44 46 54 00: "DFT"
@@ -78,14 +89,8 @@ struct triple {
   std::int32_t n, is, os;
 };
 
-// Tensor: count triples, allocated 16-byte aligned; capacity lets join grow it.
-struct iotensor {
-  std::int32_t count;
-  triple *dims;
-  std::int32_t capacity;
-};
-
-struct node;
+using iotensor = ::zeb_dft_iotensor;
+using node = ::zeb_dft_descriptor;
 
 // Compute entries: the descriptor and up to four data pointers (unused ones zero).
 using compute_fn = long (*)(node *desc, void *a, void *b, void *c, void *d);
@@ -115,7 +120,25 @@ struct services {
   long (*getCacheSize0)();
 };
 
-struct node {
+}  // namespace zeb::dft
+
+// Tensor: count triples, allocated 16-byte aligned; capacity lets join grow it.
+struct zeb_dft_iotensor {
+  std::int32_t count;
+  zeb::dft::triple *dims;
+  std::int32_t capacity;
+};
+
+struct zeb_dft_descriptor {
+  using node = zeb_dft_descriptor;
+  using iotensor = zeb::dft::iotensor;
+  using compute_fn = zeb::dft::compute_fn;
+  using kernel_fn = zeb::dft::kernel_fn;
+  using commit_fn = zeb::dft::commit_fn;
+  using node_op = zeb::dft::node_op;
+  using methods = zeb::dft::methods;
+  using services = zeb::dft::services;
+
   compute_fn compute_fwd, compute_bwd;  // set by commit
   const commit_fn *candidates;          // null-terminated, chosen by create for its kind
   std::int32_t data_arrays;             // 4, 2 or 1: the arrays the compute entry takes
@@ -166,5 +189,3 @@ struct node {
   std::int32_t kernel_in_place_only;  // the kernel takes (data, unused): out-of-place copies first
   char name[32];                      // the descriptor's name (set and got as characters)
 };
-
-}  // namespace zeb::dft

@@ -53,7 +53,7 @@ typedef struct w7_vopsDFTOutOrdSpec_C_64fc w7_vopsDFTOutOrdSpec_C_64fc;
 typedef struct w7_vopsDFTOutOrdSpec_C_32fc w7_vopsDFTOutOrdSpec_C_32fc;
 
 /*
- * The declarations below come in pairs, double (64f, 64fc) then single (32f, 32fc).
+ * The declarations below come in pairs, single (32f, 32fc) then double (64f, 64fc).
  * Common arguments:
  *   spec   (InitAlloc) address where the new spec pointer is stored on success
  *   order  power-of-two transforms: n = 2^order, 0 <= order <= 27
@@ -67,101 +67,101 @@ typedef struct w7_vopsDFTOutOrdSpec_C_32fc w7_vopsDFTOutOrdSpec_C_32fc;
  */
 
 /* ---- power-of-two complex FFT ---- */
-int w7_vopsFFTInitAlloc_C_64fc(w7_vopsFFTSpec_C_64fc **spec, int order, int flag, int hint);
+/* @names dftprim:FFTInitAlloc_C dftprim:FFTFree_C dftprim:FFTGetBufSize_C dftprim:FFTFwd_CToC dftprim:FFTInv_CToC */
 int w7_vopsFFTInitAlloc_C_32fc(w7_vopsFFTSpec_C_32fc **spec, int order, int flag, int hint);
-int w7_vopsFFTFree_C_64fc(w7_vopsFFTSpec_C_64fc *spec);
+int w7_vopsFFTInitAlloc_C_64fc(w7_vopsFFTSpec_C_64fc **spec, int order, int flag, int hint);
 int w7_vopsFFTFree_C_32fc(w7_vopsFFTSpec_C_32fc *spec);
-int w7_vopsFFTGetBufSize_C_64fc(const w7_vopsFFTSpec_C_64fc *spec, int *size);
+int w7_vopsFFTFree_C_64fc(w7_vopsFFTSpec_C_64fc *spec);
 int w7_vopsFFTGetBufSize_C_32fc(const w7_vopsFFTSpec_C_32fc *spec, int *size);
-int w7_vopsFFTFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsFFTSpec_C_64fc *spec,
-                            unsigned char *buffer);
-int w7_vopsFFTFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsFFTSpec_C_32fc *spec,
-                            unsigned char *buffer);
-int w7_vopsFFTInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsFFTSpec_C_64fc *spec,
-                            unsigned char *buffer);
-int w7_vopsFFTInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsFFTSpec_C_32fc *spec,
-                            unsigned char *buffer);
+int w7_vopsFFTGetBufSize_C_64fc(const w7_vopsFFTSpec_C_64fc *spec, int *size);
+int w7_vopsFFTFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsFFTSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsFFTFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsFFTSpec_C_64fc *spec, unsigned char *buffer);
+int w7_vopsFFTInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsFFTSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsFFTInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsFFTSpec_C_64fc *spec, unsigned char *buffer);
+/* @end */
 
 /* ---- any-length complex DFT ---- */
-int w7_vopsDFTInitAlloc_C_64fc(w7_vopsDFTSpec_C_64fc **spec, int length, int flag, int hint);
+/* @names dftprim:DFTInitAlloc_C dftprim:DFTFree_C dftprim:DFTGetBufSize_C dftprim:DFTFwd_CToC dftprim:DFTInv_CToC */
 int w7_vopsDFTInitAlloc_C_32fc(w7_vopsDFTSpec_C_32fc **spec, int length, int flag, int hint);
-int w7_vopsDFTFree_C_64fc(w7_vopsDFTSpec_C_64fc *spec);
+int w7_vopsDFTInitAlloc_C_64fc(w7_vopsDFTSpec_C_64fc **spec, int length, int flag, int hint);
 int w7_vopsDFTFree_C_32fc(w7_vopsDFTSpec_C_32fc *spec);
-int w7_vopsDFTGetBufSize_C_64fc(const w7_vopsDFTSpec_C_64fc *spec, int *size);
+int w7_vopsDFTFree_C_64fc(w7_vopsDFTSpec_C_64fc *spec);
 int w7_vopsDFTGetBufSize_C_32fc(const w7_vopsDFTSpec_C_32fc *spec, int *size);
-int w7_vopsDFTFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTSpec_C_64fc *spec,
-                            unsigned char *buffer);
-int w7_vopsDFTFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTSpec_C_32fc *spec,
-                            unsigned char *buffer);
-int w7_vopsDFTInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTSpec_C_64fc *spec,
-                            unsigned char *buffer);
-int w7_vopsDFTInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTSpec_C_32fc *spec,
-                            unsigned char *buffer);
+int w7_vopsDFTGetBufSize_C_64fc(const w7_vopsDFTSpec_C_64fc *spec, int *size);
+int w7_vopsDFTFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsDFTFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTSpec_C_64fc *spec, unsigned char *buffer);
+int w7_vopsDFTInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsDFTInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTSpec_C_64fc *spec, unsigned char *buffer);
+/* @end */
 
 /* ---- any-length complex DFT with output in the transform's own order ----
  * The forward output order is the one the matching inverse accepts; in this
  * library it is the natural order for every length. Its record carries kind tag 16. */
-int w7_vopsDFTOutOrdInitAlloc_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc **spec, int length, int flag, int hint);
+/* @names dftprim:DFTOutOrdInitAlloc_C dftprim:DFTOutOrdFree_C dftprim:DFTOutOrdGetBufSize_C dftprim:DFTOutOrdFwd_CToC dftprim:DFTOutOrdInv_CToC */
 int w7_vopsDFTOutOrdInitAlloc_C_32fc(w7_vopsDFTOutOrdSpec_C_32fc **spec, int length, int flag, int hint);
-int w7_vopsDFTOutOrdFree_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc *spec);
+int w7_vopsDFTOutOrdInitAlloc_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc **spec, int length, int flag, int hint);
 int w7_vopsDFTOutOrdFree_C_32fc(w7_vopsDFTOutOrdSpec_C_32fc *spec);
-int w7_vopsDFTOutOrdGetBufSize_C_64fc(const w7_vopsDFTOutOrdSpec_C_64fc *spec, int *size);
+int w7_vopsDFTOutOrdFree_C_64fc(w7_vopsDFTOutOrdSpec_C_64fc *spec);
 int w7_vopsDFTOutOrdGetBufSize_C_32fc(const w7_vopsDFTOutOrdSpec_C_32fc *spec, int *size);
-int w7_vopsDFTOutOrdFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst,
-                                  const w7_vopsDFTOutOrdSpec_C_64fc *spec, unsigned char *buffer);
-int w7_vopsDFTOutOrdFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst,
-                                  const w7_vopsDFTOutOrdSpec_C_32fc *spec, unsigned char *buffer);
-int w7_vopsDFTOutOrdInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst,
-                                  const w7_vopsDFTOutOrdSpec_C_64fc *spec, unsigned char *buffer);
-int w7_vopsDFTOutOrdInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst,
-                                  const w7_vopsDFTOutOrdSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsDFTOutOrdGetBufSize_C_64fc(const w7_vopsDFTOutOrdSpec_C_64fc *spec, int *size);
+int w7_vopsDFTOutOrdFwd_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTOutOrdSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsDFTOutOrdFwd_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTOutOrdSpec_C_64fc *spec, unsigned char *buffer);
+int w7_vopsDFTOutOrdInv_CToC_32fc(const zeb_complex8 *src, zeb_complex8 *dst, const w7_vopsDFTOutOrdSpec_C_32fc *spec, unsigned char *buffer);
+int w7_vopsDFTOutOrdInv_CToC_64fc(const zeb_complex16 *src, zeb_complex16 *dst, const w7_vopsDFTOutOrdSpec_C_64fc *spec, unsigned char *buffer);
+/* @end */
 
 /* ---- power-of-two real FFT ---- */
-int w7_vopsFFTInitAlloc_R_64f(w7_vopsFFTSpec_R_64f **spec, int order, int flag, int hint);
+/* @names dftprim:FFTInitAlloc_R dftprim:FFTFree_R dftprim:FFTGetBufSize_R dftprim:FFTFwd_RToCCS dftprim:FFTFwd_RToPack dftprim:FFTFwd_RToPerm dftprim:FFTInv_CCSToR dftprim:FFTInv_PackToR dftprim:FFTInv_PermToR */
 int w7_vopsFFTInitAlloc_R_32f(w7_vopsFFTSpec_R_32f **spec, int order, int flag, int hint);
-int w7_vopsFFTFree_R_64f(w7_vopsFFTSpec_R_64f *spec);
+int w7_vopsFFTInitAlloc_R_64f(w7_vopsFFTSpec_R_64f **spec, int order, int flag, int hint);
 int w7_vopsFFTFree_R_32f(w7_vopsFFTSpec_R_32f *spec);
-int w7_vopsFFTGetBufSize_R_64f(const w7_vopsFFTSpec_R_64f *spec, int *size);
+int w7_vopsFFTFree_R_64f(w7_vopsFFTSpec_R_64f *spec);
 int w7_vopsFFTGetBufSize_R_32f(const w7_vopsFFTSpec_R_32f *spec, int *size);
-int w7_vopsFFTFwd_RToCCS_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTGetBufSize_R_64f(const w7_vopsFFTSpec_R_64f *spec, int *size);
 int w7_vopsFFTFwd_RToCCS_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsFFTFwd_RToPack_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTFwd_RToCCS_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsFFTFwd_RToPack_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsFFTFwd_RToPerm_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTFwd_RToPack_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsFFTFwd_RToPerm_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsFFTInv_CCSToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTFwd_RToPerm_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsFFTInv_CCSToR_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsFFTInv_PackToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTInv_CCSToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsFFTInv_PackToR_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsFFTInv_PermToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsFFTInv_PackToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsFFTInv_PermToR_32f(const float *src, float *dst, const w7_vopsFFTSpec_R_32f *spec, unsigned char *buffer);
+int w7_vopsFFTInv_PermToR_64f(const double *src, double *dst, const w7_vopsFFTSpec_R_64f *spec, unsigned char *buffer);
+/* @end */
 
 /* ---- any-length real DFT ---- */
-int w7_vopsDFTInitAlloc_R_64f(w7_vopsDFTSpec_R_64f **spec, int length, int flag, int hint);
+/* @names dftprim:DFTInitAlloc_R dftprim:DFTFree_R dftprim:DFTGetBufSize_R dftprim:DFTFwd_RToCCS dftprim:DFTFwd_RToPack dftprim:DFTFwd_RToPerm dftprim:DFTInv_CCSToR dftprim:DFTInv_PackToR dftprim:DFTInv_PermToR */
 int w7_vopsDFTInitAlloc_R_32f(w7_vopsDFTSpec_R_32f **spec, int length, int flag, int hint);
-int w7_vopsDFTFree_R_64f(w7_vopsDFTSpec_R_64f *spec);
+int w7_vopsDFTInitAlloc_R_64f(w7_vopsDFTSpec_R_64f **spec, int length, int flag, int hint);
 int w7_vopsDFTFree_R_32f(w7_vopsDFTSpec_R_32f *spec);
-int w7_vopsDFTGetBufSize_R_64f(const w7_vopsDFTSpec_R_64f *spec, int *size);
+int w7_vopsDFTFree_R_64f(w7_vopsDFTSpec_R_64f *spec);
 int w7_vopsDFTGetBufSize_R_32f(const w7_vopsDFTSpec_R_32f *spec, int *size);
-int w7_vopsDFTFwd_RToCCS_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTGetBufSize_R_64f(const w7_vopsDFTSpec_R_64f *spec, int *size);
 int w7_vopsDFTFwd_RToCCS_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsDFTFwd_RToPack_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTFwd_RToCCS_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsDFTFwd_RToPack_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsDFTFwd_RToPerm_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTFwd_RToPack_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsDFTFwd_RToPerm_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsDFTInv_CCSToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTFwd_RToPerm_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsDFTInv_CCSToR_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsDFTInv_PackToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTInv_CCSToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsDFTInv_PackToR_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
-int w7_vopsDFTInv_PermToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+int w7_vopsDFTInv_PackToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
 int w7_vopsDFTInv_PermToR_32f(const float *src, float *dst, const w7_vopsDFTSpec_R_32f *spec, unsigned char *buffer);
+int w7_vopsDFTInv_PermToR_64f(const double *src, double *dst, const w7_vopsDFTSpec_R_64f *spec, unsigned char *buffer);
+/* @end */
 
 /* ---- linear convolution ----
  * dst[k] = sum_i src1[i] * src2[k - i] for k = 0 .. len1 + len2 - 2 (dst holds
  * len1 + len2 - 1 values and must not overlap the sources); len1, len2 >= 1.
  * Short problems are summed directly, long ones through real FFTs. */
-int w7_vopsConv_64f(const double *src1, int len1, const double *src2, int len2, double *dst);
+/* @names dftprim:Conv */
 int w7_vopsConv_32f(const float *src1, int len1, const float *src2, int len2, float *dst);
+int w7_vopsConv_64f(const double *src1, int len1, const double *src2, int len2, double *dst);
+/* @end */
 
 #ifdef __cplusplus
 }

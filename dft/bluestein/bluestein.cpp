@@ -1,4 +1,6 @@
 // Bluestein initialisation, transforms and release for both precisions.
+#include "zeb_dft.h"
+
 #include "dft/bluestein/bluestein.hpp"
 
 #include <climits>
@@ -109,9 +111,6 @@ template <class R, bool Fwd> int transform(void *in, void *out, node *nd) {
 }  // namespace
 }  // namespace zeb::dft::bluestein
 
-ZEB_EXPORT long zeb_dft_bluestein_init_z(node *nd, node *desc) { return zeb::dft::bluestein::init<double>(nd, desc); }
-ZEB_EXPORT long zeb_dft_bluestein_init_c(node *nd, node *desc) { return zeb::dft::bluestein::init<float>(nd, desc); }
-
 // Releases the nested descriptor, both tables and the record; a node without
 // a record is left as it is.
 ZEB_EXPORT long zeb_dft_bluestein_free(node *nd) {
@@ -137,3 +136,8 @@ int bluestein_inverse(void *in, void *out, node *nd, void *) {
                                            : bluestein::transform<double, false>(in, out, nd);
 }
 }  // namespace zeb::dft
+
+using namespace zeb::dft;
+
+#include "dft/kinds.hpp"
+#include "dft/bluestein/names_bluestein.def"

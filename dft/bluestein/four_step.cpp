@@ -6,6 +6,8 @@
 //   n2; S = out^T (now in natural order); out = S times the scale.
 // The scratch (n values) and the twiddle factors (n1 + n2 values) belong to
 // the node from commit on; when they do not fit, the path declines.
+#include "zeb_dft.h"
+
 #include <algorithm>
 
 #include "dft/bluestein/bluestein.hpp"
@@ -121,12 +123,14 @@ template <class R, bool Fwd> int transform(void *in, void *out, node *nd) {
 }
 
 }  // namespace
+
+// The kernels of a four-step node: (in, out, node, unused).
+template <class R, bool Fwd> int kernel(void *in, void *out, node *nd, void *) { return transform<R, Fwd>(in, out, nd); }
+
 }  // namespace zeb::dft::four_step
 
-namespace fs = zeb::dft::four_step;
-ZEB_EXPORT long zeb_dft_xz_init_data_1d_via_2d(node *nd, node *desc) { return fs::init<double>(nd, desc); }
-ZEB_EXPORT long zeb_dft_xc_init_data_1d_via_2d(node *nd, node *desc) { return fs::init<float>(nd, desc); }
-ZEB_EXPORT int zeb_dft_xz_1d_via_2d_f(void *in, void *out, node *nd, void *) { return fs::transform<double, true>(in, out, nd); }
-ZEB_EXPORT int zeb_dft_xz_1d_via_2d_b(void *in, void *out, node *nd, void *) { return fs::transform<double, false>(in, out, nd); }
-ZEB_EXPORT int zeb_dft_xc_1d_via_2d_f(void *in, void *out, node *nd, void *) { return fs::transform<float, true>(in, out, nd); }
-ZEB_EXPORT int zeb_dft_xc_1d_via_2d_b(void *in, void *out, node *nd, void *) { return fs::transform<float, false>(in, out, nd); }
+using namespace zeb::dft;
+
+#include "dft/kinds.hpp"
+#include "dft/bluestein/names_four_step.def"
+

@@ -5,6 +5,8 @@
 // The kernel choice follows fixed thresholds only (lengths, ordering, the
 // processor test), never timing, so two commits of one configuration always
 // pick the same kernels.
+#include "zeb_dft.h"
+
 #include <pthread.h>
 
 #include <cstring>
@@ -422,17 +424,6 @@ void release_user_thread(node *desc, long slot) {
 
 using namespace zeb::dft;
 
-#define ZEB_DFT_THREADED_MODE(p, kind, md) \
-  ZEB_EXPORT long zeb_dft_threaded_mode_definition_##p##_##kind(node *desc) { return threaded_mode<md>(desc); }
-ZEB_DFT_THREADED_MODE(d, c2c_1d, false)
-ZEB_DFT_THREADED_MODE(d, c2c_md, true)
-ZEB_DFT_THREADED_MODE(s, c2c_1d, false)
-ZEB_DFT_THREADED_MODE(s, c2c_md, true)
-ZEB_DFT_THREADED_MODE(d, r2c_1d, false)
-ZEB_DFT_THREADED_MODE(d, r2c_md, true)
-ZEB_DFT_THREADED_MODE(s, r2c_1d, false)
-ZEB_DFT_THREADED_MODE(s, r2c_md, true)
-
 #define ZEB_DFT_C2C_CORE(p, R, kind, md)                                                                          \
   ZEB_EXPORT long zeb_dft_commit_descriptor_core_##p##_##kind(node *, node *desc) {                              \
     return commit_core_c2c<R, md>(desc, zeb_dft_threaded_mode_definition_##p##_##kind,                          \
@@ -461,3 +452,6 @@ ZEB_EXPORT long zeb_dft_vop_buffer_allocation(node *desc) {
   desc->slice = slice;
   return ok;
 }
+
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_commit.def"

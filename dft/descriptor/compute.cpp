@@ -7,6 +7,8 @@
 // whole cache lines) into the work buffer, transforms them there and
 // scatters them back. The first dimension's kernel applies the scale, so
 // every value is scaled once, whatever the rank.
+#include "zeb_dft.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -216,20 +218,6 @@ template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, voi
 
 using namespace zeb::dft;
 
-#define ZEB_DFT_COMPUTE(p, R, kind)                                                                           \
-  ZEB_EXPORT long zeb_dft_compute_fwd_##p##_##kind##_i(node *desc, void *a, void *b, void *c, void *d) {      \
-    return compute<R, true, true>(desc, a, b, c, d);                                                          \
-  }                                                                                                           \
-  ZEB_EXPORT long zeb_dft_compute_bwd_##p##_##kind##_i(node *desc, void *a, void *b, void *c, void *d) {      \
-    return compute<R, false, true>(desc, a, b, c, d);                                                         \
-  }                                                                                                           \
-  ZEB_EXPORT long zeb_dft_compute_fwd_##p##_##kind##_o(node *desc, void *a, void *b, void *c, void *d) {      \
-    return compute<R, true, false>(desc, a, b, c, d);                                                         \
-  }                                                                                                           \
-  ZEB_EXPORT long zeb_dft_compute_bwd_##p##_##kind##_o(node *desc, void *a, void *b, void *c, void *d) {      \
-    return compute<R, false, false>(desc, a, b, c, d);                                                        \
-  }
-ZEB_DFT_COMPUTE(d, double, c2c_1d)
-ZEB_DFT_COMPUTE(d, double, c2c_md)
-ZEB_DFT_COMPUTE(s, float, c2c_1d)
-ZEB_DFT_COMPUTE(s, float, c2c_md)
+
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_compute.def"

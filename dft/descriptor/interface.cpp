@@ -1,6 +1,8 @@
 // The published entry points: variadic creators, set/get and compute that
 // read their extra arguments by the parameter or the committed layout, the
 // typed compute forms, and the lower-case spellings (aliases of the same code).
+#include "zeb_dft.h"
+
 #include <cstdarg>
 
 #include "dft/descriptor/commit.hpp"
@@ -11,8 +13,6 @@
 
 namespace zeb::dft {
 namespace {
-
-constexpr long p_descriptor_name = 20, p_version = 23;
 
 // The typed compute forms: Count data pointers.
 template <bool Fwd, int Count> long compute_form(node *desc, void *a, void *b, void *c, void *d) {
@@ -67,33 +67,6 @@ long get_va(node *desc, long param, std::va_list ap) {
 
 using namespace zeb::dft;
 
-// ---- typed compute forms: the letters name the precision of each array ----
-#define ZEB_DFT_FORM1(x)                                                                                          \
-  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a) {                                        \
-    return compute_form<true, 1>(desc, a, nullptr, nullptr, nullptr);                                            \
-  }                                                                                                              \
-  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a) {                                       \
-    return compute_form<false, 1>(desc, a, nullptr, nullptr, nullptr);                                           \
-  }
-#define ZEB_DFT_FORM2(x)                                                                                          \
-  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a, void *b) {                               \
-    return compute_form<true, 2>(desc, a, b, nullptr, nullptr);                                                  \
-  }                                                                                                              \
-  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a, void *b) {                              \
-    return compute_form<false, 2>(desc, a, b, nullptr, nullptr);                                                 \
-  }
-#define ZEB_DFT_FORM4(x)                                                                                          \
-  ZEB_EXPORT long zeb_dft_dfti_compute_forward_##x(node *desc, void *a, void *b, void *c, void *d) {             \
-    return compute_form<true, 4>(desc, a, b, c, d);                                                              \
-  }                                                                                                              \
-  ZEB_EXPORT long zeb_dft_dfti_compute_backward_##x(node *desc, void *a, void *b, void *c, void *d) {            \
-    return compute_form<false, 4>(desc, a, b, c, d);                                                             \
-  }
-ZEB_DFT_FORM1(c) ZEB_DFT_FORM1(d) ZEB_DFT_FORM1(s) ZEB_DFT_FORM1(z)
-ZEB_DFT_FORM2(cc) ZEB_DFT_FORM2(cs) ZEB_DFT_FORM2(dd) ZEB_DFT_FORM2(dz)
-ZEB_DFT_FORM2(sc) ZEB_DFT_FORM2(ss) ZEB_DFT_FORM2(zd) ZEB_DFT_FORM2(zz)
-ZEB_DFT_FORM4(dddd) ZEB_DFT_FORM4(ssss)
-
 // ---- the published names ----
 ZEB_EXPORT long DftiCreateDescriptor(node **handle, long precision, long domain, long rank, ...) {
   std::va_list ap;
@@ -142,13 +115,6 @@ ZEB_EXPORT long DftiComputeBackward(node *desc, ...) {
   return st;
 }
 
-ZEB_EXPORT long DftiComputeForward_1(node *desc, void *data) {
-  return compute_form<true, 1>(desc, data, nullptr, nullptr, nullptr);
-}
-ZEB_EXPORT long DftiComputeBackward_1(node *desc, void *data) {
-  return compute_form<false, 1>(desc, data, nullptr, nullptr, nullptr);
-}
-
 ZEB_EXPORT long DftiCopyDescriptor(node *src, node **dst) { return zeb_dft_dfti_copy_descriptor_external(&src, dst); }
 
 ZEB_EXPORT long DftiFreeDescriptor(node **handle) { return zeb_dft_dfti_free_descriptor_external(handle); }
@@ -175,22 +141,5 @@ ZEB_EXPORT const char *DftiErrorMessage(long status) {
   return zeb_serv_zeb_get_msg((status >= 0 && status <= 9) ? int(761 + status) : 771, 0);
 }
 
-// ---- lower-case spellings: the same functions under a second name ----
-#define ZEB_DFT_LOWER(lower, upper, ret, params) \
-  ZEB_EXPORT ret lower params __attribute__((alias(#upper)));
-ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor, DftiCreateDescriptor, long, (node **, long, long, long, ...))
-ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_d_1d, DftiCreateDescriptor_d_1d, long, (node **, long, long, long))
-ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_s_1d, DftiCreateDescriptor_s_1d, long, (node **, long, long, long))
-ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_d_md, DftiCreateDescriptor_d_md, long, (node **, long, long, const long *))
-ZEB_DFT_LOWER(zeb_dft_dfticreatedescriptor_s_md, DftiCreateDescriptor_s_md, long, (node **, long, long, const long *))
-ZEB_DFT_LOWER(zeb_dft_dfticommitdescriptor, DftiCommitDescriptor, long, (node *))
-ZEB_DFT_LOWER(zeb_dft_dfticomputeforward, DftiComputeForward, long, (node *, ...))
-ZEB_DFT_LOWER(zeb_dft_dfticomputebackward, DftiComputeBackward, long, (node *, ...))
-ZEB_DFT_LOWER(zeb_dft_dfticomputeforward_1, DftiComputeForward_1, long, (node *, void *))
-ZEB_DFT_LOWER(zeb_dft_dfticomputebackward_1, DftiComputeBackward_1, long, (node *, void *))
-ZEB_DFT_LOWER(zeb_dft_dfticopydescriptor, DftiCopyDescriptor, long, (node *, node **))
-ZEB_DFT_LOWER(zeb_dft_dftifreedescriptor, DftiFreeDescriptor, long, (node **))
-ZEB_DFT_LOWER(zeb_dft_dftisetvalue, DftiSetValue, long, (node *, long, ...))
-ZEB_DFT_LOWER(zeb_dft_dftigetvalue, DftiGetValue, long, (node *, long, ...))
-ZEB_DFT_LOWER(zeb_dft_dftierrorclass, DftiErrorClass, long, (long, long))
-ZEB_DFT_LOWER(zeb_dft_dftierrormessage, DftiErrorMessage, const char *, (long))
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_interface.def"

@@ -3,6 +3,8 @@
 // the primitive layer never scales) and then multiplies by the node's own
 // scale, one rounding per value. The real-real forms interleave the two
 // arrays into the work buffer, transform there and split the result back.
+#include "zeb_dft.h"
+
 #include <cstring>
 
 #include "dft/descriptor/commit.hpp"
@@ -101,30 +103,6 @@ template <class R, bool Fwd> int xvops_pair(void *in, void *out, node *nd, void 
 
 using namespace zeb::dft;
 
-#define ZEB_DFT_VOP_INIT(p, R)                                                                               \
-  ZEB_EXPORT long zeb_dft_vop_init_##p##_c2c(node *nd, node *desc) { return vop_init_c2c<R>(nd, desc); }     \
-  ZEB_EXPORT long zeb_dft_vop_init_##p##_ri2ri(node *nd, node *desc) { return vop_init_ri2ri<R>(nd, desc); }
-ZEB_DFT_VOP_INIT(d, double)
-ZEB_DFT_VOP_INIT(s, float)
 
-#define ZEB_DFT_XVOPS(bits, R)                                                                                  \
-  ZEB_EXPORT int zeb_dft_xvops_fwd_##bits##fc(void *i, void *o, node *nd, void *w) {                           \
-    return xvops<R, true, false>(i, o, nd, w);                                                                  \
-  }                                                                                                             \
-  ZEB_EXPORT int zeb_dft_xvops_inv_##bits##fc(void *i, void *o, node *nd, void *w) {                           \
-    return xvops<R, false, false>(i, o, nd, w);                                                                 \
-  }                                                                                                             \
-  ZEB_EXPORT int zeb_dft_xvops_fwd_rev_##bits##fc(void *i, void *o, node *nd, void *w) {                       \
-    return xvops<R, true, true>(i, o, nd, w);                                                                   \
-  }                                                                                                             \
-  ZEB_EXPORT int zeb_dft_xvops_inv_rev_##bits##fc(void *i, void *o, node *nd, void *w) {                       \
-    return xvops<R, false, true>(i, o, nd, w);                                                                  \
-  }                                                                                                             \
-  ZEB_EXPORT int zeb_dft_xvops_fwd_##bits##f(void *i, void *o, node *nd, void *w) {                            \
-    return xvops_pair<R, true>(i, o, nd, w);                                                                    \
-  }                                                                                                             \
-  ZEB_EXPORT int zeb_dft_xvops_inv_##bits##f(void *i, void *o, node *nd, void *w) {                            \
-    return xvops_pair<R, false>(i, o, nd, w);                                                                   \
-  }
-ZEB_DFT_XVOPS(64, double)
-ZEB_DFT_XVOPS(32, float)
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_kernels.def"

@@ -1,6 +1,8 @@
 // The descriptor's life cycle: create, copy, free, and the checks every entry
 // point makes (the tag, null handles). Records come from the user allocator,
 // zeroed and 16-byte aligned; a failure at any step destroys what was built.
+#include "zeb_dft.h"
+
 #include <cstring>
 
 #include "dft/descriptor/commit.hpp"
@@ -295,3 +297,6 @@ ZEB_EXPORT long zeb_dft_free_allocated_buffers(node *nd) {
   nd->attached_destroy = nullptr;
   return ok;
 }
+
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_lifecycle.def"

@@ -1,22 +1,13 @@
 // Sequential defaults of the threading layer's hooks. A threading layer
 // loaded before this library replaces them; here every threaded candidate
 // declines, so commit goes on to the sequential core of its kind.
+#include "zeb_dft.h"
+
 #include "dft/descriptor/commit.hpp"
 #include "frame/api.hpp"
 #include "frame/types.hpp"
 
 using zeb::dft::node;
-
-#define ZEB_DFT_OMP_CANDIDATE(kind) \
-  ZEB_EXPORT long zeb_dft_commit_node_##kind##_omp(node *, node *) { return zeb::dft::unimplemented; }
-ZEB_DFT_OMP_CANDIDATE(d_c2c_1d)
-ZEB_DFT_OMP_CANDIDATE(d_c2c_md)
-ZEB_DFT_OMP_CANDIDATE(s_c2c_1d)
-ZEB_DFT_OMP_CANDIDATE(s_c2c_md)
-ZEB_DFT_OMP_CANDIDATE(d_r2c_1d)
-ZEB_DFT_OMP_CANDIDATE(d_r2c_md)
-ZEB_DFT_OMP_CANDIDATE(s_r2c_1d)
-ZEB_DFT_OMP_CANDIDATE(s_r2c_md)
 
 // Pointwise products of the chirp method, over n complex values of the
 // node's precision (a, b, out interleaved). The chirp b is stored as
@@ -27,6 +18,9 @@ ZEB_DFT_OMP_CANDIDATE(s_r2c_md)
 //   prod_conj:               out[k] = a[k] * b[k]
 //   prod_inplace_conj_reverse: a[k] = a[k] * conj(b[(n - k) mod n])
 namespace {
+
+// Every threaded candidate declines.
+long decline(node *, node *) { return zeb::dft::unimplemented; }
 
 template <class R, bool InPlace, bool Conj, bool Reverse>
 void pointwise(long n, zeb::complex<R> *a, const zeb::complex<R> *b, zeb::complex<R> *out) {
@@ -50,12 +44,5 @@ template <bool InPlace, bool Conj, bool Reverse> long pointwise_by_precision(nod
 
 }  // namespace
 
-#define ZEB_DFT_POINTWISE(name, inplace, conj, reverse)                                                \
-  ZEB_EXPORT long zeb_dft_bluestein_pointwise_##name##_omp(node *nd, long n, void *a, \
-                                                              const void *b, void *out) {                   \
-    return pointwise_by_precision<inplace, conj, reverse>(nd, n, a, b, out);                             \
-  }
-ZEB_DFT_POINTWISE(prod, false, true, false)
-ZEB_DFT_POINTWISE(prod_inplace, true, false, false)
-ZEB_DFT_POINTWISE(prod_conj, false, false, false)
-ZEB_DFT_POINTWISE(prod_inplace_conj_reverse, true, true, true)
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_omp.def"

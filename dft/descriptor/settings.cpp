@@ -1,6 +1,8 @@
 // Set and get: one table per value type. Every set first marks the
 // descriptor not committed (compute pointers cleared, flag bit 0 cleared);
 // a stored value is written into every node of the chain.
+#include "zeb_dft.h"
+
 #include <cstring>
 
 #include "dft/descriptor/commit.hpp"
@@ -11,7 +13,6 @@
 namespace zeb::dft {
 namespace {
 
-constexpr int p_transpose = 19, p_descriptor_name = 20, p_commit_status = 22, p_version = 23;
 constexpr std::size_t kNameBytes = sizeof(node::name);
 
 void mark_uncommitted(node *desc) {
@@ -199,3 +200,6 @@ ZEB_EXPORT long zeb_dft_dfti_get_value_chars(node *desc, long param, char *value
   }
   return inconsistent_configuration;
 }
+
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_settings.def"

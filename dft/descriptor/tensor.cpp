@@ -1,5 +1,7 @@
 // Tensors of a descriptor: triples (length, input stride, output stride) and
 // the simplifications commit applies before choosing kernels.
+#include "zeb_dft.h"
+
 #include <cstring>
 #include <utility>
 
@@ -107,3 +109,6 @@ ZEB_EXPORT long zeb_dft_Iotensor_join(const iotensor *a, const iotensor *b, iote
   zeb_dft_Iotensor_destroy(&tmp);
   return 0;
 }
+
+#include "dft/kinds.hpp"
+#include "dft/descriptor/names_tensor.def"

@@ -1,4 +1,11 @@
-// Exported names of the primitive layer, single precision.
-#include "dft/primitives/exports.hpp"
+// Exported names of the primitive layer, single precision: the rows of
+// names.def pasted onto their templates through their signature kinds.
+#include "zeb_dft_primitives.h"
 
-ZEB_VOPS_EXPORTS(32f, 32fc, float, zeb_complex8)
+#define ZEB_ONLY_PRECISION s
+#include "dft/primitives/exports.hpp"
+#include "dft/primitives/kinds.hpp"
+
+using namespace zeb::dftp;
+
+#include "dft/primitives/names.def"

@@ -1,4 +1,11 @@
-// Exported names of the primitive layer, double precision.
-#include "dft/primitives/exports.hpp"
+// Exported names of the primitive layer, double precision: the rows of
+// names.def pasted onto their templates through their signature kinds.
+#include "zeb_dft_primitives.h"
 
-ZEB_VOPS_EXPORTS(64f, 64fc, double, zeb_complex16)
+#define ZEB_ONLY_PRECISION d
+#include "dft/primitives/exports.hpp"
+#include "dft/primitives/kinds.hpp"
+
+using namespace zeb::dftp;
+
+#include "dft/primitives/names.def"

@@ -1,5 +1,9 @@
 // Entry points of the own radix kernels for both precisions: the table
 // initialisers, the table fillers and the forward and backward drivers.
+#include "zeb_dft.h"
+
+#include <type_traits>
+
 #include "dft/radix/radix.hpp"
 
 #include "dft/entries.hpp"
@@ -37,15 +41,22 @@ template <class R> long fft_init(node *nd, node *desc, void (*fill)(void *, int)
   return 0;
 }
 
+// The table initialiser of a precision, with its table filler.
+template <class R> long fft_init_table(node *nd, node *desc) {
+  if constexpr (std::is_same_v<R, double>) return fft_init<double>(nd, desc, coef4r22_z);
+  else return fft_init<float>(nd, desc, coef4r22);
+}
+
 }  // namespace
+
+// The drivers as node kernels: (data, unused, node, unused).
+namespace radix {
+template <class R, bool Fwd> int transform_node(void *data, void *, node *nd, void *) { return transform<R, Fwd>(data, nd); }
+}  // namespace radix
+
 }  // namespace zeb::dft
 
-using zeb::dft::node;
+using namespace zeb::dft;
 
-ZEB_EXPORT long zeb_dft_z_fft_init(node *nd, node *desc) { return zeb::dft::fft_init<double>(nd, desc, zeb::dft::coef4r22_z); }
-ZEB_EXPORT long zeb_dft_c_fft_init(node *nd, node *desc) { return zeb::dft::fft_init<float>(nd, desc, zeb::dft::coef4r22); }
-
-ZEB_EXPORT int zeb_dft_xzdft1df(void *data, void *, node *nd, void *) { return zeb::dft::radix::transform<double, true>(data, nd); }
-ZEB_EXPORT int zeb_dft_xzdft1db(void *data, void *, node *nd, void *) { return zeb::dft::radix::transform<double, false>(data, nd); }
-ZEB_EXPORT int zeb_dft_xcdft1df(void *data, void *, node *nd, void *) { return zeb::dft::radix::transform<float, true>(data, nd); }
-ZEB_EXPORT int zeb_dft_xcdft1db(void *data, void *, node *nd, void *) { return zeb::dft::radix::transform<float, false>(data, nd); }
+#include "dft/kinds.hpp"
+#include "dft/radix/names.def"

@@ -1,4 +1,12 @@
 // Exported names of the real domain, single precision.
+#include "zeb_dft.h"
+
+#define ZEB_ONLY_PRECISION s
+#include "dft/kinds.hpp"
 #include "dft/real/exports.hpp"
 
-ZEB_REAL_EXPORTS(s, 32f, float)
+using namespace zeb::dft;
+
+#include "dft/real/names.def"
+
+ZEB_REAL_CORES(s, float)

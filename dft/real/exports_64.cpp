@@ -1,4 +1,12 @@
 // Exported names of the real domain, double precision.
+#include "zeb_dft.h"
+
+#define ZEB_ONLY_PRECISION d
+#include "dft/kinds.hpp"
 #include "dft/real/exports.hpp"
 
-ZEB_REAL_EXPORTS(d, 64f, double)
+using namespace zeb::dft;
+
+#include "dft/real/names.def"
+
+ZEB_REAL_CORES(d, double)

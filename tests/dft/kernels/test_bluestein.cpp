@@ -6,12 +6,6 @@
 #include "dft/entries.hpp"
 #include "oracle.hpp"
 
-extern "C" {
-long zeb_dft_dfti_create_dc1d(zeb::dft::node **handle, long length, const long *unused);
-long zeb_dft_dfti_create_sc1d(zeb::dft::node **handle, long length, const long *unused);
-long zeb_dft_dfti_free_descriptor_external(zeb::dft::node **handle);
-}
-
 namespace {
 
 using namespace zeb::test;

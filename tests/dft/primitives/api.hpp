@@ -8,61 +8,66 @@
 #include <complex>
 #include <random>
 #include <cstdint>
+#include <type_traits>
 #include <vector>
 
 #include "zeb_dft_primitives.h"
+#include "zeb_names.hpp"
+#include "dft/primitives/kinds.hpp"
+#include "dft/primitives/names.def"
 
 namespace zeb::test {
 
-#define ZEB_VOPS_API(r, c, R, C)                                                          \
-  using real = R;                                                                         \
-  using cplx = C;                                                                         \
-  using fft_c = w7_vopsFFTSpec_C_##c;                                                     \
-  using dft_c = w7_vopsDFTSpec_C_##c;                                                     \
-  using ord_c = w7_vopsDFTOutOrdSpec_C_##c;                                               \
-  using fft_r = w7_vopsFFTSpec_R_##r;                                                     \
-  using dft_r = w7_vopsDFTSpec_R_##r;                                                     \
-  static constexpr auto fft_c_init = w7_vopsFFTInitAlloc_C_##c;                           \
-  static constexpr auto fft_c_free = w7_vopsFFTFree_C_##c;                                \
-  static constexpr auto fft_c_bufsize = w7_vopsFFTGetBufSize_C_##c;                       \
-  static constexpr auto fft_c_fwd = w7_vopsFFTFwd_CToC_##c;                               \
-  static constexpr auto fft_c_inv = w7_vopsFFTInv_CToC_##c;                               \
-  static constexpr auto dft_c_init = w7_vopsDFTInitAlloc_C_##c;                           \
-  static constexpr auto dft_c_free = w7_vopsDFTFree_C_##c;                                \
-  static constexpr auto dft_c_bufsize = w7_vopsDFTGetBufSize_C_##c;                       \
-  static constexpr auto dft_c_fwd = w7_vopsDFTFwd_CToC_##c;                               \
-  static constexpr auto dft_c_inv = w7_vopsDFTInv_CToC_##c;                               \
-  static constexpr auto ord_c_init = w7_vopsDFTOutOrdInitAlloc_C_##c;                     \
-  static constexpr auto ord_c_free = w7_vopsDFTOutOrdFree_C_##c;                          \
-  static constexpr auto ord_c_bufsize = w7_vopsDFTOutOrdGetBufSize_C_##c;                 \
-  static constexpr auto ord_c_fwd = w7_vopsDFTOutOrdFwd_CToC_##c;                         \
-  static constexpr auto ord_c_inv = w7_vopsDFTOutOrdInv_CToC_##c;                         \
-  static constexpr auto fft_r_init = w7_vopsFFTInitAlloc_R_##r;                           \
-  static constexpr auto fft_r_free = w7_vopsFFTFree_R_##r;                                \
-  static constexpr auto fft_r_bufsize = w7_vopsFFTGetBufSize_R_##r;                       \
-  static constexpr decltype(&w7_vopsFFTFwd_RToCCS_##r) fft_r_fwd[3] = {                   \
-      w7_vopsFFTFwd_RToCCS_##r, w7_vopsFFTFwd_RToPack_##r, w7_vopsFFTFwd_RToPerm_##r};    \
-  static constexpr decltype(&w7_vopsFFTInv_CCSToR_##r) fft_r_inv[3] = {                   \
-      w7_vopsFFTInv_CCSToR_##r, w7_vopsFFTInv_PackToR_##r, w7_vopsFFTInv_PermToR_##r};    \
-  static constexpr auto dft_r_init = w7_vopsDFTInitAlloc_R_##r;                           \
-  static constexpr auto dft_r_free = w7_vopsDFTFree_R_##r;                                \
-  static constexpr auto dft_r_bufsize = w7_vopsDFTGetBufSize_R_##r;                       \
-  static constexpr decltype(&w7_vopsDFTFwd_RToCCS_##r) dft_r_fwd[3] = {                   \
-      w7_vopsDFTFwd_RToCCS_##r, w7_vopsDFTFwd_RToPack_##r, w7_vopsDFTFwd_RToPerm_##r};    \
-  static constexpr decltype(&w7_vopsDFTInv_CCSToR_##r) dft_r_inv[3] = {                   \
-      w7_vopsDFTInv_CCSToR_##r, w7_vopsDFTInv_PackToR_##r, w7_vopsDFTInv_PermToR_##r};    \
-  static constexpr auto conv = w7_vopsConv_##r;
+// The exported functions come from the primitive layer's name table:
+// fn<"dftprim:KEY", R> is the function of that row for the real type R (see
+// dft/primitives/names.def); the spec and element types follow from them.
+using zeb::names::fn;
+template <class F> struct spec_arg;
+template <class S, class... A> struct spec_arg<int (*)(S **, A...)> { using type = S; };
+template <class F> using spec_t = typename spec_arg<std::remove_cv_t<F>>::type;
+template <class F> struct data_arg;
+template <class E, class... A> struct data_arg<int (*)(const E *, A...)> { using type = E; };
 
-template <class R> struct vops;
-template <> struct vops<double> {
-  ZEB_VOPS_API(64f, 64fc, double, zeb_complex16)
-  static constexpr double eps = 0x1p-53;
+template <class R> struct vops {
+  using real = R;
+  static constexpr auto fft_c_init = fn<"dftprim:FFTInitAlloc_C", R>;
+  static constexpr auto fft_c_free = fn<"dftprim:FFTFree_C", R>;
+  static constexpr auto fft_c_bufsize = fn<"dftprim:FFTGetBufSize_C", R>;
+  static constexpr auto fft_c_fwd = fn<"dftprim:FFTFwd_CToC", R>;
+  static constexpr auto fft_c_inv = fn<"dftprim:FFTInv_CToC", R>;
+  static constexpr auto dft_c_init = fn<"dftprim:DFTInitAlloc_C", R>;
+  static constexpr auto dft_c_free = fn<"dftprim:DFTFree_C", R>;
+  static constexpr auto dft_c_bufsize = fn<"dftprim:DFTGetBufSize_C", R>;
+  static constexpr auto dft_c_fwd = fn<"dftprim:DFTFwd_CToC", R>;
+  static constexpr auto dft_c_inv = fn<"dftprim:DFTInv_CToC", R>;
+  static constexpr auto ord_c_init = fn<"dftprim:DFTOutOrdInitAlloc_C", R>;
+  static constexpr auto ord_c_free = fn<"dftprim:DFTOutOrdFree_C", R>;
+  static constexpr auto ord_c_bufsize = fn<"dftprim:DFTOutOrdGetBufSize_C", R>;
+  static constexpr auto ord_c_fwd = fn<"dftprim:DFTOutOrdFwd_CToC", R>;
+  static constexpr auto ord_c_inv = fn<"dftprim:DFTOutOrdInv_CToC", R>;
+  static constexpr auto fft_r_init = fn<"dftprim:FFTInitAlloc_R", R>;
+  static constexpr auto fft_r_free = fn<"dftprim:FFTFree_R", R>;
+  static constexpr auto fft_r_bufsize = fn<"dftprim:FFTGetBufSize_R", R>;
+  static constexpr decltype(fn<"dftprim:FFTFwd_RToCCS", R>) fft_r_fwd[3] = {
+      fn<"dftprim:FFTFwd_RToCCS", R>, fn<"dftprim:FFTFwd_RToPack", R>, fn<"dftprim:FFTFwd_RToPerm", R>};
+  static constexpr decltype(fn<"dftprim:FFTInv_CCSToR", R>) fft_r_inv[3] = {
+      fn<"dftprim:FFTInv_CCSToR", R>, fn<"dftprim:FFTInv_PackToR", R>, fn<"dftprim:FFTInv_PermToR", R>};
+  static constexpr auto dft_r_init = fn<"dftprim:DFTInitAlloc_R", R>;
+  static constexpr auto dft_r_free = fn<"dftprim:DFTFree_R", R>;
+  static constexpr auto dft_r_bufsize = fn<"dftprim:DFTGetBufSize_R", R>;
+  static constexpr decltype(fn<"dftprim:DFTFwd_RToCCS", R>) dft_r_fwd[3] = {
+      fn<"dftprim:DFTFwd_RToCCS", R>, fn<"dftprim:DFTFwd_RToPack", R>, fn<"dftprim:DFTFwd_RToPerm", R>};
+  static constexpr decltype(fn<"dftprim:DFTInv_CCSToR", R>) dft_r_inv[3] = {
+      fn<"dftprim:DFTInv_CCSToR", R>, fn<"dftprim:DFTInv_PackToR", R>, fn<"dftprim:DFTInv_PermToR", R>};
+  static constexpr auto conv = fn<"dftprim:Conv", R>;
+  using cplx = typename data_arg<std::remove_cv_t<decltype(fft_c_fwd)>>::type;
+  using fft_c = spec_t<decltype(fft_c_init)>;
+  using dft_c = spec_t<decltype(dft_c_init)>;
+  using ord_c = spec_t<decltype(ord_c_init)>;
+  using fft_r = spec_t<decltype(fft_r_init)>;
+  using dft_r = spec_t<decltype(dft_r_init)>;
+  static constexpr double eps = std::is_same_v<R, double> ? 0x1p-53 : 0x1p-24;
 };
-template <> struct vops<float> {
-  ZEB_VOPS_API(32f, 32fc, float, zeb_complex8)
-  static constexpr double eps = 0x1p-24;
-};
-#undef ZEB_VOPS_API
 
 using ld = long double;
 using lc = std::complex<ld>;

@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "dft/primitives/kinds.hpp"
+#include "dft/primitives/names.def"

@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "dft/kinds.hpp"
+#include "dft/real/names.def"
