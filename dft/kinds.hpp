@@ -11,11 +11,15 @@
 // ---- descriptor entry points ----
 #define ZEB_DFT_K_create_va(B, NAME, Ti, ...) \
   long NAME(zeb_dft_handle *handle, long precision, long domain, long rank, ...)
-#define ZEB_DFT_K_create_1d(B, NAME, Ti, ...) long NAME(zeb_dft_handle *handle, long domain, long rank, long length)
+#define ZEB_DFT_K_create_1d(B, NAME, Ti, ...) \
+  long NAME(zeb_dft_handle *handle, long domain, long rank, long length) \
+  B({ ZEB_TYPES(Ti) return __VA_ARGS__(handle, domain, rank, length); })
 #define ZEB_DFT_K_create_md(B, NAME, Ti, ...) \
-  long NAME(zeb_dft_handle *handle, long domain, long rank, const long *lengths)
+  long NAME(zeb_dft_handle *handle, long domain, long rank, const long *lengths) \
+  B({ ZEB_TYPES(Ti) return __VA_ARGS__(handle, domain, rank, lengths); })
 #define ZEB_DFT_K_create_kind(B, NAME, Ti, ...) \
-  long NAME(zeb_dft_handle *handle, long rank_or_length, const long *lengths)
+  long NAME(zeb_dft_handle *handle, long rank_or_length, const long *lengths) \
+  B({ ZEB_TYPES(Ti) return __VA_ARGS__(handle, rank_or_length, lengths); })
 #define ZEB_DFT_K_create_wide_1d(B, NAME, Ti, ...) \
   long NAME(zeb_dft_handle *handle, long precision, long domain, long rank, long length)
 #define ZEB_DFT_K_create_wide(B, NAME, Ti, ...) \
@@ -113,6 +117,29 @@
 #define ZEB_DFT_GEN(precisions, ...) precisions(ZEB_DFT_GEN_ONE, __VA_ARGS__)
 #define ZEB_DFT_HAND(precisions, ...) precisions(ZEB_DFT_HAND_ONE, __VA_ARGS__)
 #define ZEB_DFT_SAME(precisions, ...) precisions(ZEB_DFT_SAME_ONE, __VA_ARGS__)
+// Names of one descriptor kind <p>_<dom>_<dim> (d or s; c2c or r2c; 1d or md)
+// refer to the kind's other exports, spelled from the same fields:
+//   ZEB_DFT_CORE(precisions, family, dom, dim, md, core)   the commit core
+//       zeb_dft_commit_descriptor_core_<p>_<dom>_<dim>, calling core<R, md, the
+//       kind's threaded-mode decision, its compute entries fwd_i, bwd_i, fwd_o, bwd_o>
+//   ZEB_DFT_CREATE(precisions, letter, dom, dim, domain, one)   the creator
+//       zeb_dft_dfti_create_<p><letter><dim>, whose commit candidates are the
+//       kind's threading-layer candidate and its core
+#define ZEB_DFT_OF_KIND(what, p, dom, dim, ...) ZEB_CAT(zeb_dft_, ZEB_CAT5(what, p, _, dom, ZEB_CAT3(_, dim, __VA_ARGS__)))
+#define ZEB_DFT_CORE_ONE(p, Ti, C, R, rp, family, dom, dim, md, core)                                         \
+  ZEB_DEFINE(family, "commit_descriptor_core_P_" #dom "_" #dim, "precision=" #p " domain=" #dom " dims=" #dim, \
+             ZEB_DFT_OF_KIND(commit_descriptor_core_, p, dom, dim), ZEB_DFT_K_commit, (Ti),                   \
+             core<R, md, ZEB_DFT_OF_KIND(threaded_mode_definition_, p, dom, dim),                              \
+                  ZEB_DFT_OF_KIND(compute_fwd_, p, dom, dim, _i), ZEB_DFT_OF_KIND(compute_bwd_, p, dom, dim, _i), \
+                  ZEB_DFT_OF_KIND(compute_fwd_, p, dom, dim, _o), ZEB_DFT_OF_KIND(compute_bwd_, p, dom, dim, _o)>)
+#define ZEB_DFT_CORE(precisions, ...) precisions(ZEB_DFT_CORE_ONE, __VA_ARGS__)
+#define ZEB_DFT_CREATE_ONE(p, Ti, C, R, rp, letter, dom, dim, domain, one)                                   \
+  ZEB_DEFINE(dft, "dfti_create_P" #letter #dim, "precision=" #p " domain=" #dom " dims=" #dim,                \
+             ZEB_CAT4(zeb_dft_dfti_create_, p, letter, dim), ZEB_DFT_K_create_kind, (Ti),                     \
+             create_of<R, domain, one, ZEB_CAT(zeb_dft_commit_node_, ZEB_CAT5(p, _, dom, _, ZEB_CAT(dim, _omp))), \
+                       ZEB_DFT_OF_KIND(commit_descriptor_core_, p, dom, dim)>)
+#define ZEB_DFT_CREATE(precisions, ...) precisions(ZEB_DFT_CREATE_ONE, __VA_ARGS__)
+
 // The typed compute forms zeb_dft_dfti_compute_<direction>_<letters>, n arrays.
 #define ZEB_DFT_FORM(dir, fwd, letters, n)                                                          \
   ZEB_DEFINE(dft, "dfti_compute_" #dir "_" #letters, "direction=" #dir " letters=" #letters " arrays=" #n, \

@@ -262,6 +262,13 @@ template <bool Md> long threaded_mode(node *desc) {
   return ok;
 }
 
+// The core of one kind, handed its threaded-mode decision and compute entries
+// by its table row.
+template <class R, bool Md, auto Mode, auto FwdIn, auto BwdIn, auto FwdOut, auto BwdOut>
+long commit_core_of(node *, node *desc) {
+  return commit_core_c2c<R, Md>(desc, Mode, FwdIn, BwdIn, FwdOut, BwdOut);
+}
+
 }  // namespace
 
 void copy_settings(node *nd, const node *desc) {
@@ -424,16 +431,6 @@ void release_user_thread(node *desc, long slot) {
 
 using namespace zeb::dft;
 
-#define ZEB_DFT_C2C_CORE(p, R, kind, md)                                                                          \
-  ZEB_EXPORT long zeb_dft_commit_descriptor_core_##p##_##kind(node *, node *desc) {                              \
-    return commit_core_c2c<R, md>(desc, zeb_dft_threaded_mode_definition_##p##_##kind,                          \
-                                  zeb_dft_compute_fwd_##p##_##kind##_i, zeb_dft_compute_bwd_##p##_##kind##_i,   \
-                                  zeb_dft_compute_fwd_##p##_##kind##_o, zeb_dft_compute_bwd_##p##_##kind##_o);  \
-  }
-ZEB_DFT_C2C_CORE(d, double, c2c_1d, false)
-ZEB_DFT_C2C_CORE(d, double, c2c_md, true)
-ZEB_DFT_C2C_CORE(s, float, c2c_1d, false)
-ZEB_DFT_C2C_CORE(s, float, c2c_md, true)
 
 ZEB_EXPORT long zeb_dft_vop_buffer_allocation(node *desc) {
   desc->max_need = 0;

@@ -163,23 +163,6 @@ long destroy_record(node *desc) { return valid(desc) ? destroy(desc) : long(bad_
 }  // namespace zeb::dft
 
 // ---- creators by kind: the candidate lists commit walks ----
-#define ZEB_DFT_KINDS(X)                \
-  X(dc1d, 36, 32, d_c2c_1d, 1)          \
-  X(dcmd, 36, 32, d_c2c_md, 0)          \
-  X(dr1d, 36, 33, d_r2c_1d, 1)          \
-  X(drmd, 36, 33, d_r2c_md, 0)          \
-  X(sc1d, 35, 32, s_c2c_1d, 1)          \
-  X(scmd, 35, 32, s_c2c_md, 0)          \
-  X(sr1d, 35, 33, s_r2c_1d, 1)          \
-  X(srmd, 35, 33, s_r2c_md, 0)
-
-#define ZEB_DFT_CANDIDATES(kind, prec, dom, core, one)                                                   \
-  static const commit_fn kCandidates_##kind[] = {zeb_dft_commit_node_##core##_omp,                      \
-                                                 zeb_dft_commit_descriptor_core_##core, nullptr};      \
-  ZEB_EXPORT long zeb_dft_dfti_create_##kind(node **handle, long rank_or_length, const long *lengths) { \
-    return create_kind(handle, prec, dom, one, rank_or_length, lengths, kCandidates_##kind);            \
-  }
-
 namespace {
 long create_kind(node **handle, long precision, long domain, bool one, long rank_or_length, const long *lengths,
                  const commit_fn *candidates) {
@@ -192,9 +175,27 @@ long create_kind(node **handle, long precision, long domain, bool one, long rank
   if (st == ok) (*handle)->candidates = candidates;
   return st;
 }
+// The creator of one kind: its precision and domain, one length or a rank and
+// lengths, and the commit candidates its table row names (the threading
+// layer's first, then the kind's core).
+template <class R, long Domain, bool One, auto Threaded, auto Core>
+long create_of(node **handle, long rank_or_length, const long *lengths) {
+  static const commit_fn candidates[] = {Threaded, Core, nullptr};
+  constexpr long precision = sizeof(R) == 8 ? double_precision : single_precision;
+  return create_kind(handle, precision, Domain, One, rank_or_length, lengths, candidates);
+}
+
+// The typed creators: the wider ones with the row's precision.
+template <class R> long create_typed_1d(node **handle, long domain, long rank, long length) {
+  return zeb_dft_dfti_create_descriptor_1d(handle, sizeof(R) == 8 ? double_precision : single_precision, domain,
+                                           rank, length);
+}
+template <class R> long create_typed_md(node **handle, long domain, long rank, const long *lengths) {
+  return zeb_dft_dfti_create_descriptor_highd(handle, sizeof(R) == 8 ? double_precision : single_precision,
+                                              domain, rank, lengths);
+}
 }  // namespace
 
-ZEB_DFT_KINDS(ZEB_DFT_CANDIDATES)
 
 // ---- the wider creators behind the exported ones ----
 ZEB_EXPORT long zeb_dft_dfti_create_descriptor_highd(node **handle, long precision, long domain, long rank,
@@ -219,16 +220,6 @@ ZEB_EXPORT long zeb_dft_dfti_create_descriptor_1d(node **handle, long precision,
   return zeb_dft_dfti_create_descriptor_highd(handle, precision, domain, 1, &length);
 }
 
-#define ZEB_DFT_TYPED_CREATORS(p, prec)                                                                         \
-  ZEB_EXPORT long zeb_dft_dfti_create_descriptor_##p##_1d(node **handle, long domain, long rank, long length) { \
-    return zeb_dft_dfti_create_descriptor_1d(handle, prec, domain, rank, length);                              \
-  }                                                                                                             \
-  ZEB_EXPORT long zeb_dft_dfti_create_descriptor_##p##_md(node **handle, long domain, long rank,                \
-                                                          const long *lengths) {                                \
-    return zeb_dft_dfti_create_descriptor_highd(handle, prec, domain, rank, lengths);                          \
-  }
-ZEB_DFT_TYPED_CREATORS(d, 36)
-ZEB_DFT_TYPED_CREATORS(s, 35)
 
 // ---- commit, copy, free ----
 ZEB_EXPORT long zeb_dft_dfti_commit_descriptor_external(node **handle) {

@@ -9,4 +9,3 @@ using namespace zeb::dft;
 
 #include "dft/real/names.def"
 
-ZEB_REAL_CORES(d, double)

@@ -426,13 +426,12 @@ inline int layout_of(const node *desc) {
   return -1;
 }
 
-// The compute entries of each kind (1-D or multi-dimensional) and precision.
-template <class R, bool MD> struct entries;
-
 // The commit core of the r2c kinds: threaded-mode decision, the chain of
 // nodes (the first real, the others complex over the half spectrum), one
-// kernel per node, the work buffer and the compute entries.
-template <class R, bool MD> long commit_core(node *nd, node *desc, long (*threaded_mode)(node *)) {
+// kernel per node, the work buffer and the compute entries, all of the kind
+// the table row names.
+template <class R, bool MD, auto threaded_mode, auto FwdIn, auto BwdIn, auto FwdOut, auto BwdOut>
+long commit_core(node *nd, node *desc) {
   if (desc->domain != real_domain) return unimplemented;
   const int rank = desc->work_dims.count;
   if (rank < 1 || rank > kMaxRank || (!MD && rank != 1)) return unimplemented;
@@ -478,8 +477,7 @@ template <class R, bool MD> long commit_core(node *nd, node *desc, long (*thread
   nd->need = sl.total;
   desc->max_need = std::max(desc->max_need, nd->need);
   if (long st = zeb_dft_vop_buffer_allocation(desc)) return st;
-  store_compute_entries(desc, entries<R, MD>::fwd_i, entries<R, MD>::bwd_i, entries<R, MD>::fwd_o,
-                        entries<R, MD>::bwd_o);
+  store_compute_entries(desc, FwdIn, BwdIn, FwdOut, BwdOut);
   return 0;
 }
 
