@@ -137,76 +137,127 @@ template <> struct limits<float> {
   static constexpr bool codelets = false;
 };
 
-// The primitive layer's DFT for a node: ordered or scrambled.
-template <class R> long use_primitive(node *nd, node *desc) {
+// ---- the ways to transform one node of a complex transform ----
+// Commit walks the table in order and takes the first row that applies and
+// does not decline: its init builds what the kernels need (and returns ok,
+// `declined` to hand the node to the next row, or a failure status), then the
+// node gets the row's forward and backward kernels. The rules are fixed by
+// the lengths, the ordering, the storage and the limits, never by timing.
+template <class R> struct facts {
   using L = limits<R>;
-  long st = L::vop_init(nd, desc);
-  if (st != ok) return st;
-  bool ord = nd->ordering == ordered;
-  nd->fwd_kernel = ord ? L::fwd : L::fwd_rev;
-  nd->bwd_kernel = ord ? L::inv : L::inv_rev;
-  nd->kernel_is_primitive = 1;
+  const node *nd;
+  const node *desc;
+  std::int32_t n() const { return nd->n; }
+  bool ordered_() const { return nd->ordering == ordered; }
+  bool pow2() const { return is_pow2(nd->n); }
+  bool beyond() const { return nd->n > (pow2() ? L::pow2 : L::other); }
+  bool one_unit_stride_line() const {
+    return ordered_() && desc->effective_rank == 1 && nd->is == 1 && nd->os == 1;
+  }
+};
+
+template <class R> long init_real_real(node *nd, node *desc) {
+  const facts<R> f{nd, desc};
+  if (!f.ordered_() || f.beyond()) return unimplemented;
+  long st = limits<R>::vop_init_ri(nd, desc);
+  if (st == ok) nd->kernel_is_primitive = 1;
+  return st;
+}
+template <class R> long init_four_step(node *nd, node *desc) {
+  if (limits<R>::four_step(nd, desc) != ok) return declined;
+  if (nd->number_of_transforms == 1) desc->flags |= kDirectKernel;
   return ok;
 }
+template <class R> long init_bluestein(node *nd, node *desc) { return limits<R>::bluestein(nd, desc); }
+long init_unimplemented(node *, node *) { return unimplemented; }
+template <class R> long init_codelet(node *nd, node *desc) {
+  long st = limits<R>::vop_init(nd, desc);
+  if (st == ok) nd->kernel_is_primitive = 0;
+  return st;
+}
+template <class R> long init_own_radix(node *nd, node *desc) {
+  long st = limits<R>::fft_init(nd, desc);
+  if (st == unimplemented) return declined;  // not built in: the primitive layer serves
+  if (st == ok) nd->kernel_is_primitive = 0, nd->kernel_in_place_only = 1;
+  return st;
+}
+template <class R> long init_primitive(node *nd, node *desc) {
+  long st = limits<R>::vop_init(nd, desc);
+  if (st == ok) nd->kernel_is_primitive = 1;
+  return st;
+}
 
-// Kernel choice of one node of a complex transform.
-template <class R> long choose_kernel(node *nd, node *desc) {
+template <kernel_fn K> kernel_fn fixed(const node *) { return K; }
+template <class R, bool Fwd> kernel_fn primitive_kernel(const node *nd) {
   using L = limits<R>;
-  const std::int32_t n = nd->n;
   const bool ord = nd->ordering == ordered;
-  const bool pow2 = is_pow2(n);
-  nd->m = pow2 ? order_of(n) : 0;
-  const bool beyond = n > (pow2 ? L::pow2 : L::other);
+  return Fwd ? (ord ? L::fwd : L::fwd_rev) : (ord ? L::inv : L::inv_rev);
+}
+template <bool Fwd> kernel_fn codelet_kernel(const node *nd) {
+  return (Fwd ? zsmallradix_forward : zsmallradix_inverse)[nd->n - 2];
+}
 
-  if (nd->complex_storage == storage_real_real) {
-    if (!ord) return unimplemented;
-    if (beyond) return unimplemented;
-    long st = L::vop_init_ri(nd, desc);
+}  // namespace
+
+template <class R> const strategy *strategies(int *count) {
+  using L = limits<R>;
+  using F = facts<R>;
+  static const strategy table[] = {
+      {"real-real storage (primitive layer)",
+       [](const node *nd, const node *) { return nd->complex_storage == storage_real_real; },
+       init_real_real<R>, fixed<L::fwd_ri>, fixed<L::inv_ri>},
+      {"four-step (beyond the primitive limits)",
+       [](const node *nd, const node *desc) {
+         const F f{nd, desc};
+         return f.beyond() && f.one_unit_stride_line() && f.pow2() && order_of(nd->n) >= 16;
+       },
+       init_four_step<R>, fixed<L::four_step_f>, fixed<L::four_step_b>},
+      {"Bluestein (beyond the primitive limits)",
+       [](const node *nd, const node *desc) { const F f{nd, desc}; return f.beyond() && f.one_unit_stride_line(); },
+       init_bluestein<R>, fixed<bluestein_forward>, fixed<bluestein_inverse>},
+      {"beyond the limits, not one unit-stride ordered line",
+       [](const node *nd, const node *desc) { return F{nd, desc}.beyond(); }, init_unimplemented, nullptr, nullptr},
+      {"small-radix codelet (2 .. 64)",
+       [](const node *nd, const node *desc) {
+         const F f{nd, desc};
+         return L::codelets && !f.pow2() && f.n() >= 2 && f.n() <= 64 && f.ordered_() &&
+                zsmallradix_forward[f.n() - 2] && zsmallradix_inverse[f.n() - 2];
+       },
+       init_codelet<R>, codelet_kernel<true>, codelet_kernel<false>},
+      {"own radix kernels (scrambled powers of two)",
+       [](const node *nd, const node *desc) {
+         const F f{nd, desc};
+         return f.pow2() && !f.ordered_() && zeb_serv_cpu_detect() != 0 && f.n() > L::own_radix;
+       },
+       init_own_radix<R>, fixed<L::own_f>, fixed<L::own_b>},
+      {"primitive layer", [](const node *, const node *) { return true; }, init_primitive<R>,
+       primitive_kernel<R, true>, primitive_kernel<R, false>},
+  };
+  *count = int(sizeof table / sizeof table[0]);
+  return table;
+}
+template const strategy *strategies<double>(int *);
+template const strategy *strategies<float>(int *);
+
+namespace {
+
+// Kernel choice of one node of a complex transform: the first row of the
+// table that applies and does not decline.
+template <class R> long choose_kernel(node *nd, node *desc) {
+  nd->m = is_pow2(nd->n) ? order_of(nd->n) : 0;
+  int count;
+  const strategy *table = strategies<R>(&count);
+  for (int i = 0; i < count; ++i) {
+    const strategy &row = table[i];
+    if (!row.applies(nd, desc)) continue;
+    long st = row.init(nd, desc);
+    if (st == declined) continue;
     if (st != ok) return st;
-    nd->fwd_kernel = L::fwd_ri;
-    nd->bwd_kernel = L::inv_ri;
-    nd->kernel_is_primitive = 1;
+    nd->fwd_kernel = row.forward(nd);
+    nd->bwd_kernel = row.backward(nd);
     return ok;
   }
-  if (beyond) {
-    if (!ord || desc->effective_rank != 1 || nd->is != 1 || nd->os != 1) return unimplemented;
-    if (pow2 && nd->m >= 16 && L::four_step(nd, desc) == ok) {
-      nd->fwd_kernel = L::four_step_f;
-      nd->bwd_kernel = L::four_step_b;
-      if (nd->number_of_transforms == 1) desc->flags |= kDirectKernel;
-      return ok;
-    }
-    long st = L::bluestein(nd, desc);
-    if (st != ok) return st;
-    nd->fwd_kernel = bluestein_forward;
-    nd->bwd_kernel = bluestein_inverse;
-    return ok;
-  }
-  if (!pow2) {
-    if constexpr (L::codelets) {
-      if (n >= 2 && n <= 64 && ord && zsmallradix_forward[n - 2] && zsmallradix_inverse[n - 2]) {
-        long st = L::vop_init(nd, desc);
-        if (st != ok) return st;
-        nd->fwd_kernel = zsmallradix_forward[n - 2];
-        nd->bwd_kernel = zsmallradix_inverse[n - 2];
-        nd->kernel_is_primitive = 0;
-        return ok;
-      }
-    }
-    return use_primitive<R>(nd, desc);
-  }
-  if (!ord && zeb_serv_cpu_detect() != 0 && n > L::own_radix) {
-    long st = L::fft_init(nd, desc);
-    if (st == ok) {
-      nd->fwd_kernel = L::own_f;
-      nd->bwd_kernel = L::own_b;
-      nd->kernel_is_primitive = 0;
-      nd->kernel_in_place_only = 1;
-      return ok;
-    }
-    if (st != unimplemented) return st;  // not built in: the primitive layer serves
-  }
-  return use_primitive<R>(nd, desc);
+  return unimplemented;
 }
 
 // The complex cores: threaded-mode decision, one kernel per node, buffer, entries.

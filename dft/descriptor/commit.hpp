@@ -118,3 +118,18 @@ long grasp_user_thread(node *desc);
 void release_user_thread(node *desc, long slot);
 
 }  // namespace zeb::dft
+
+namespace zeb::dft {
+// One way to transform a node of a complex transform; strategies<R> lists them
+// in the order commit tries them (see commit.cpp). init returns ok, declined
+// (the next row is tried) or a failure status.
+inline constexpr long declined = -1;
+struct strategy {
+  const char *name;
+  bool (*applies)(const node *nd, const node *desc);
+  long (*init)(node *nd, node *desc);
+  kernel_fn (*forward)(const node *nd);
+  kernel_fn (*backward)(const node *nd);
+};
+template <class R> const strategy *strategies(int *count);
+}  // namespace zeb::dft

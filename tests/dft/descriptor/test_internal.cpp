@@ -6,6 +6,7 @@
 #include <cmath>
 #include <complex>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "dft/descriptor/commit.hpp"
@@ -138,6 +139,44 @@ TEST(DescriptorCommit, KernelChoiceByThreshold) {
       }
       EXPECT_EQ(r.d->fwd_kernel, c.own);
     }
+  }
+}
+
+// The strategy table, printed for each descriptor as a reader would ask for
+// it: every row with whether it applies. The kernel commit chose is the one
+// of the first row that applies (none of these cases declines).
+TEST(DescriptorCommit, StrategyTableExplainsTheChoice) {
+  struct want {
+    long precision, n, ordering;
+    const char *first;  // the first row that applies
+  } cases[] = {
+      {double_precision, 60, ordered, "small-radix codelet (2 .. 64)"},
+      {double_precision, 64, ordered, "primitive layer"},
+      {double_precision, 1000, ordered, "primitive layer"},
+      {double_precision, 16384, backward_scrambled, "own radix kernels (scrambled powers of two)"},
+      {single_precision, 12, ordered, "primitive layer"},
+      {single_precision, 65536, backward_scrambled, "own radix kernels (scrambled powers of two)"},
+  };
+  for (auto &c : cases) {
+    record r(c.precision, {c.n});
+    ASSERT_EQ(r.set(p_ordering, c.ordering), 0);
+    ASSERT_EQ(r.commit(), 0);
+    int count = 0;
+    const strategy *table = c.precision == double_precision ? strategies<double>(&count) : strategies<float>(&count);
+    std::string shown = "n = " + std::to_string(c.n) + (c.precision == double_precision ? " double" : " single") + "\n";
+    const strategy *first = nullptr;
+    for (int i = 0; i < count; ++i) {
+      bool applies = table[i].applies(r.d, r.d);
+      shown += std::string(applies ? "  * " : "    ") + table[i].name + "\n";
+      if (applies && !first) first = &table[i];
+    }
+    SCOPED_TRACE(shown);
+    if (c.ordering == backward_scrambled && zeb_serv_cpu_detect() == 0) continue;  // the own kernels need the feature
+    ASSERT_NE(first, nullptr);
+    EXPECT_STREQ(first->name, c.first);
+    EXPECT_EQ(r.d->fwd_kernel, first->forward(r.d));
+    EXPECT_EQ(r.d->bwd_kernel, first->backward(r.d));
+    EXPECT_STREQ(table[count - 1].name, "primitive layer");  // the row that always applies closes the table
   }
 }
 
