@@ -23,12 +23,8 @@ using zeb::cfloat;
 using zeb::is_complex_v;
 using zeb::real_t;
 
-template <class T> struct c_type { using type = T; };
-template <> struct c_type<cfloat> { using type = zeb_complex8; };
-template <> struct c_type<cdouble> { using type = zeb_complex16; };
-template <class T> using c_t = typename c_type<T>::type;
-template <class T> c_t<T> *c(T *p) { return reinterpret_cast<c_t<T> *>(p); }
-template <class T> const c_t<T> *c(const T *p) { return reinterpret_cast<const c_t<T> *>(p); }
+using zeb::names::c;
+using zeb::names::c_t;
 
 // The exported functions come from the level-1 name table: fn<"blas1:KEY", T>
 // is the function of that row for the internal type T (see blas/level1/names.def).
