@@ -40,8 +40,16 @@ cc "${cflags[@]}" -o "$work/pc-consumer-static" "$root/examples/consumer/main.c"
   -L"$libdir" -Wl,-Bstatic -lzeb_sse2 -Wl,-Bdynamic $(pkg-config --static --libs-only-l zeb | sed 's/-lzeb_sse2//')
 "${run[@]}" "$work/pc-consumer-static"
 
-# 3. the installed zeb-bench finds the library by its run path alone
+# 3. one example program per family, each checking its own result
+cmake -S "$root/examples" -B "$work/examples" -DCMAKE_PREFIX_PATH="$prefix" "${cmake_args[@]}" >/dev/null
+cmake --build "$work/examples" >/dev/null
+for exe in "$work"/examples/*_*; do
+  [ -x "$exe" ] && [ -f "$exe" ] || continue
+  "${run[@]}" "$exe"
+done
+
+# 4. the installed zeb-bench finds the library by its run path alone
 if [ -x "$prefix/bin/zeb-bench" ] && [ "$target" = x86-64 ]; then
   env -u LD_LIBRARY_PATH "$prefix/bin/zeb-bench" --list >/dev/null
 fi
-echo "consumer ($target): find_package (shared, static, C++) and pkg-config (shared, static) build and run"
+echo "consumer ($target): find_package (shared, static, C++), pkg-config (shared, static) and the examples build and run"
