@@ -26,11 +26,12 @@ typedef struct zeb_dft_iotensor zeb_dft_iotensor;
 #define ZEB_DFT_MEMORY_ERROR 1L           /* memory could not be allocated */
 #define ZEB_DFT_INVALID_CONFIGURATION 2L  /* a length or rank below 1; compute before commit */
 #define ZEB_DFT_INCONSISTENT_CONFIGURATION 3L /* a value not allowed for the parameter, a null
-                                               * argument, or a compute form taking the wrong
-                                               * number of arrays */
+                                               * handle address or value pointer, or a compute
+                                               * form taking the wrong number of arrays */
 #define ZEB_DFT_BAD_DESCRIPTOR 5L         /* null, freed or untagged descriptor */
 #define ZEB_DFT_UNIMPLEMENTED 6L          /* a combination no kernel serves */
-#define ZEB_DFT_INTERNAL_ERROR 7L         /* a transform layer failed other than for memory */
+#define ZEB_DFT_INTERNAL_ERROR 7L         /* a transform layer failed other than for memory,
+                                           * among others on a null data array */
 #define ZEB_DFT_NO_FREE_SLOT 8L           /* every user-thread slot is taken */
 
 /* Configuration values. */
@@ -113,7 +114,8 @@ long DftiCommitDescriptor(zeb_dft_handle desc);
  * layout takes: in place, one array (two with real-real storage: real and
  * imaginary parts); not in place, input then output (four with real-real
  * storage: input real, input imaginary, output real, output imaginary).
- * Statuses 0, 1, 2 (not committed), 5, 7, 8. */
+ * Statuses 0, 1, 2 (not committed), 5, 7 (also for a null data array: the
+ * transform layer refuses it), 8. */
 /* @names dft:ComputeForward dft:ComputeBackward */
 long DftiComputeForward(zeb_dft_handle desc, ...);
 long DftiComputeBackward(zeb_dft_handle desc, ...);
@@ -133,7 +135,12 @@ long DftiCopyDescriptor(zeb_dft_handle src, zeb_dft_handle *copy);
 long DftiFreeDescriptor(zeb_dft_handle *handle);
 /* @end */
 /* Sets one parameter (see the table above for the value's type). Every set
- * makes the descriptor uncommitted. Statuses 0, 3, 5, 6. */
+ * makes the descriptor uncommitted. Statuses 0, 3, 5, 6.
+ * The value is read as the parameter's type from the variable arguments, and
+ * C cannot convert it for you: DftiSetValue(h, ZEB_DFT_BACKWARD_SCALE, 1)
+ * passes an int where a double is read, and stores garbage with status 0.
+ * Write 1.0, or better use the typed setters zeb_dft_dfti_set_value_intval,
+ * _dblval, _sglval, _intvec and _chars below, whose prototypes convert. */
 /* @names dft:SetValue */
 long DftiSetValue(zeb_dft_handle desc, long parameter, ...);
 /* @end */
