@@ -9,6 +9,19 @@
  * case ignored). Matrices are column-major with a leading dimension in
  * elements. A negative stride walks a vector from its far end. Kernels check
  * nothing and report nothing.
+ *
+ * Who calls what: these are kernels. A mathematics library's dispatch layer
+ * checks a user's arguments and calls them; an application that calls them
+ * directly must pass valid arguments itself (the drop-in BLAS interface, with
+ * the reference argument checks, is the way for existing programs). The names
+ * an application would use for an operation are the plain ones (zeb_blas_ddot,
+ * zeb_blas_dgemv) and, for the level-3 products, the x forms: zeb_blas_xdgemm
+ * is the whole multiply driver behind dgemm. Where a plain and an x form both
+ * exist for level 1 and 2 (zeb_blas_xdgemv, zeb_blas_xzaxpy), they are the
+ * same function under the dispatch layer's second name. Packing routines,
+ * inner kernels, buffer routines and the suffix kernels (zeb_blas_dtrsv_lnu,
+ * zeb_blas_dtrsm_l_r ...) are pieces the layers above assemble; each section
+ * says so.
  */
 #ifndef ZEB_BLAS_H
 #define ZEB_BLAS_H

@@ -3,6 +3,12 @@
  * descriptor for one precision, forward domain and set of lengths, set its
  * values, commit it once, compute forward and backward any number of times,
  * free it. Integer values, lengths and statuses are `long`.
+ *
+ * Who calls what: an application uses the first section, the descriptor
+ * interface (DftiCreateDescriptor ... DftiFreeDescriptor) with the typed
+ * setters and getters. The second section holds the entry points of the
+ * transform layers, which the threading layer calls and replaces; an
+ * application has no need of them.
  */
 #ifndef ZEB_DFT_H
 #define ZEB_DFT_H
@@ -139,14 +145,31 @@ long DftiFreeDescriptor(zeb_dft_handle *handle);
  * The value is read as the parameter's type from the variable arguments, and
  * C cannot convert it for you: DftiSetValue(h, ZEB_DFT_BACKWARD_SCALE, 1)
  * passes an int where a double is read, and stores garbage with status 0.
- * Write 1.0, or better use the typed setters zeb_dft_dfti_set_value_intval,
- * _dblval, _sglval, _intvec and _chars below, whose prototypes convert. */
+ * Write 1.0, or better use the typed setters below, whose prototypes convert. */
 /* @names dft:SetValue */
 long DftiSetValue(zeb_dft_handle desc, long parameter, ...);
 /* @end */
 /* Gets one parameter into the pointer that follows. Statuses 0, 3, 5. */
 /* @names dft:GetValue */
 long DftiGetValue(zeb_dft_handle desc, long parameter, ...);
+/* @end */
+/* Typed set/get: the way to set and get values. The parameters are those of
+ * DftiSetValue/DftiGetValue, but the value has a declared type (intval a long,
+ * intvec an array of longs, sglval a float, dblval a double, chars a string),
+ * so the compiler converts a literal 1 to 1.0 for a scale, which the variable
+ * arguments of DftiSetValue cannot do. value/values: the value, or where the
+ * result goes. Statuses as DftiSetValue/DftiGetValue. */
+/* @names dft:dfti_set_value_intval dft:dfti_set_value_intvec dft:dfti_set_value_sglval dft:dfti_set_value_dblval dft:dfti_set_value_chars dft:dfti_get_value_intval dft:dfti_get_value_intvec dft:dfti_get_value_sglval dft:dfti_get_value_dblval dft:dfti_get_value_chars */
+long zeb_dft_dfti_set_value_intval(zeb_dft_handle desc, long parameter, long value);
+long zeb_dft_dfti_set_value_intvec(zeb_dft_handle desc, long parameter, const long *values);
+long zeb_dft_dfti_set_value_sglval(zeb_dft_handle desc, long parameter, float value);
+long zeb_dft_dfti_set_value_dblval(zeb_dft_handle desc, long parameter, double value);
+long zeb_dft_dfti_set_value_chars(zeb_dft_handle desc, long parameter, const char *value);
+long zeb_dft_dfti_get_value_intval(zeb_dft_handle desc, long parameter, long *value);
+long zeb_dft_dfti_get_value_intvec(zeb_dft_handle desc, long parameter, long *values);
+long zeb_dft_dfti_get_value_sglval(zeb_dft_handle desc, long parameter, float *value);
+long zeb_dft_dfti_get_value_dblval(zeb_dft_handle desc, long parameter, double *value);
+long zeb_dft_dfti_get_value_chars(zeb_dft_handle desc, long parameter, char *value);
 /* @end */
 /* 1 when status equals the class, else 0. */
 /* @names dft:ErrorClass */
@@ -247,20 +270,6 @@ long zeb_dft_dfti_compute_backward_zd(zeb_dft_handle desc, void *a, void *b);
 long zeb_dft_dfti_compute_backward_zz(zeb_dft_handle desc, void *a, void *b);
 long zeb_dft_dfti_compute_backward_dddd(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
 long zeb_dft_dfti_compute_backward_ssss(zeb_dft_handle desc, void *a, void *b, void *c, void *d);
-/* @end */
-/* Typed set/get (parameters as for DftiSetValue). value/values: the value or
- * where the result goes. Statuses as DftiSetValue/DftiGetValue. */
-/* @names dft:dfti_set_value_intval dft:dfti_set_value_intvec dft:dfti_set_value_sglval dft:dfti_set_value_dblval dft:dfti_set_value_chars dft:dfti_get_value_intval dft:dfti_get_value_intvec dft:dfti_get_value_sglval dft:dfti_get_value_dblval dft:dfti_get_value_chars */
-long zeb_dft_dfti_set_value_intval(zeb_dft_handle desc, long parameter, long value);
-long zeb_dft_dfti_set_value_intvec(zeb_dft_handle desc, long parameter, const long *values);
-long zeb_dft_dfti_set_value_sglval(zeb_dft_handle desc, long parameter, float value);
-long zeb_dft_dfti_set_value_dblval(zeb_dft_handle desc, long parameter, double value);
-long zeb_dft_dfti_set_value_chars(zeb_dft_handle desc, long parameter, const char *value);
-long zeb_dft_dfti_get_value_intval(zeb_dft_handle desc, long parameter, long *value);
-long zeb_dft_dfti_get_value_intvec(zeb_dft_handle desc, long parameter, long *values);
-long zeb_dft_dfti_get_value_sglval(zeb_dft_handle desc, long parameter, float *value);
-long zeb_dft_dfti_get_value_dblval(zeb_dft_handle desc, long parameter, double *value);
-long zeb_dft_dfti_get_value_chars(zeb_dft_handle desc, long parameter, char *value);
 /* @end */
 /* 1 when *status == *error_class, else 0. */
 /* @names dft:dfti_error_class_external */

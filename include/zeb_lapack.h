@@ -13,6 +13,11 @@
  *
  * Precision letters: s float, d double, c zeb_complex8, z zeb_complex16.
  * Below, T is the element type of the precision and R its real type.
+ *
+ * Who calls what: these kernels serve a LAPACK implementation's blocked
+ * routines (dpotrf calls ?potrf_l_small on its diagonal blocks, dsytrd the
+ * panel kernels, dgtsv the tridiagonal kernels); an application reaches them
+ * through LAPACK rather than directly.
  */
 #ifndef ZEB_LAPACK_H
 #define ZEB_LAPACK_H

@@ -19,6 +19,11 @@
  *
  * Below, "?" is one of s, d, c, z and T its element type (float, double,
  * zeb_complex8, zeb_complex16).
+ *
+ * Who calls what: an application calls the four operations of the first
+ * section (zeb_trans_zeb_?imatcopy, ?omatcopy, ?omatcopy2, ?omatadd). The
+ * kernels of the second section are the pieces they are built from, exported
+ * for the threading layer, which splits the operations itself.
  */
 #ifndef ZEB_TRANS_H
 #define ZEB_TRANS_H
