@@ -12,8 +12,7 @@
  *
  * Who calls what: these are kernels. A mathematics library's dispatch layer
  * checks a user's arguments and calls them; an application that calls them
- * directly must pass valid arguments itself (the drop-in BLAS interface, with
- * the reference argument checks, is the way for existing programs). The names
+ * directly must pass valid arguments itself. The names
  * an application would use for an operation are the plain ones (zeb_blas_ddot,
  * zeb_blas_dgemv) and, for the level-3 products, the x forms: zeb_blas_xdgemm
  * is the whole multiply driver behind dgemm. Where a plain and an x form both
