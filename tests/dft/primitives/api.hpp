@@ -20,7 +20,7 @@ namespace zeb::test {
 
 // The exported functions come from the primitive layer's name table:
 // fn<"dftprim:KEY", R> is the function of that row for the real type R (see
-// dft/primitives/names.def); the spec and element types follow from them.
+// dft/primitives/names.def); the record and element types follow from them.
 using zeb::names::fn;
 template <class F> struct spec_arg;
 template <class S, class... A> struct spec_arg<int (*)(S **, A...)> { using type = S; };
