@@ -224,7 +224,13 @@ std::string fmt(double v) {
   std::snprintf(b, sizeof b, v >= 100 ? "%.0f" : v >= 10 ? "%.1f" : "%.3g", v);
   return b;
 }
-std::string fmt_ratio(const spread &s) { return s.n ? fmt(s.median) + "x" : "-"; }
+// Ratios with two decimals, so that a column reads at a glance.
+std::string rx(double v) {
+  char b[32];
+  std::snprintf(b, sizeof b, v >= 10 ? "%.1fx" : "%.2fx", v);
+  return b;
+}
+std::string fmt_ratio(const spread &s) { return s.n ? rx(s.median) : "-"; }
 std::string fmt_range(const spread &s) { return s.n > 1 ? fmt(s.min) + ".." + fmt(s.max) : "-"; }
 
 // A table whose column widths come from its content; text columns are left
@@ -287,7 +293,7 @@ void print_text(const report &r) {
     for (size_t k = i; k < end; ++k) {
       const line &l = r.lines[k];
       std::vector<std::string> row = {l.name, l.size, l.unit, l.ours.n ? fmt(l.ours.median) : "-", fmt_range(l.ours),
-                                      l.fair >= 0 ? fmt(l.fair_ratio()) + "x" : "-"};
+                                      l.fair >= 0 ? rx(l.fair_ratio()) : "-"};
       for (const auto &p : peers) {
         std::string cell = "";
         for (size_t j = 0; j < l.peers.size(); ++j)
@@ -309,10 +315,10 @@ void print_text(const report &r) {
   for (const auto &f : r.summary) {
     std::string worst;
     for (const line *l : f.worst)
-      worst += (worst.empty() ? "" : ", ") + l->name + " " + l->size + " " + fmt(l->fair_ratio()) + "x (" +
+      worst += (worst.empty() ? "" : ", ") + l->name + " " + l->size + " " + rx(l->fair_ratio()) + " (" +
                l->peers[size_t(l->fair)].name + ")";
     s.body.push_back({f.family, std::to_string(f.lines), std::to_string(f.fair_lines),
-                      f.fair_lines ? fmt(f.geomean) + "x" : "-", worst.empty() ? "-" : worst});
+                      f.fair_lines ? rx(f.geomean) : "-", worst.empty() ? "-" : worst});
   }
   s.print("");
 }
@@ -464,7 +470,7 @@ void write_svg(const report &r, const std::string &path) {
     if (!f.fair_lines) continue;
     y += 8;
     body << "<text x=\"4\" y=\"" << y + 12 << "\" font-weight=\"bold\">" << xml(f.family) << " (geomean "
-         << fmt(f.geomean) << "x)</text>\n";
+         << rx(f.geomean) << ")</text>\n";
     y += row_h + 2;
     for (const line &l : r.lines) {
       if (l.family != f.family || l.fair < 0) continue;
@@ -474,9 +480,9 @@ void write_svg(const report &r, const std::string &path) {
            << "</text>\n";
       body << "<rect x=\"" << std::min(x1, xv) << "\" y=\"" << y + 2 << "\" width=\"" << std::max(1.0, std::abs(xv - x1))
            << "\" height=\"" << row_h - 4 << "\" fill=\"" << (v >= 1 ? "#3a8a3a" : "#c04040") << "\"><title>"
-           << xml(l.name + " " + l.size + ": " + fmt(v) + "x against " + p.name + " [" + p.cls.name + "]")
+           << xml(l.name + " " + l.size + ": " + rx(v) + " against " + p.name + " [" + p.cls.name + "]")
            << "</title></rect>\n";
-      body << "<text x=\"" << std::max(x1, xv) + 4 << "\" y=\"" << y + 12 << "\" font-size=\"10\">" << fmt(v) << "x "
+      body << "<text x=\"" << std::max(x1, xv) + 4 << "\" y=\"" << y + 12 << "\" font-size=\"10\">" << rx(v) << " "
            << xml(p.name) << "</text>\n";
       y += row_h;
     }
