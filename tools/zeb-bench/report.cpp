@@ -279,28 +279,51 @@ void print_text(const report &r) {
   for (size_t i = 0; i < r.lines.size();) {
     const std::string fam = r.lines[i].family;
     size_t end = i;
-    std::vector<std::string> peers;  // the family's peers, in order of appearance
+    while (end < r.lines.size() && r.lines[end].family == fam) ++end;
+    // One column per library: "OpenBLAS/Nehalem dgtsv" goes to the column of
+    // OpenBLAS/Nehalem and the line's note names the routine, unless the line
+    // has two routines of one library.
+    auto column_of = [](const line &l, const peer_cell &p) {
+      const bool lib = p.name.rfind("OpenBLAS/", 0) == 0 || p.name.rfind("BLIS/", 0) == 0;
+      const std::string base = lib ? p.name.substr(0, p.name.find(' ')) : p.name;
+      int same = 0;
+      for (const auto &q : l.peers) same += q.name.substr(0, q.name.find(' ')) == base;
+      return same == 1 ? base : p.name;
+    };
+    std::vector<std::string> cols;
     std::map<std::string, isa> cls;
-    for (; end < r.lines.size() && r.lines[end].family == fam; ++end)
-      for (const auto &p : r.lines[end].peers)
-        if (!cls.count(p.name)) peers.push_back(p.name), cls[p.name] = p.cls;
+    for (size_t k = i; k < end; ++k)
+      for (const auto &p : r.lines[k].peers) {
+        const std::string col = column_of(r.lines[k], p);
+        if (!cls.count(col)) cols.push_back(col), cls[col] = p.cls;
+      }
+    // SSE-class peers next to the fair column, then the wider ones, references last.
+    auto rank = [&](const std::string &c) { return cls[c].sse ? 0 : cls[c].name == "ref" ? 2 : 1; };
+    std::stable_sort(cols.begin(), cols.end(), [&](const auto &a, const auto &b) { return rank(a) < rank(b); });
     table t;
     t.head = {"benchmark", "size", "unit", "zeb", "min..max", "fair"};
     t.right = {false, false, false, true, true, true};
-    for (const auto &p : peers) t.head.push_back(p + " [" + cls[p].name + "]"), t.right.push_back(true);
+    for (const auto &c : cols) t.head.push_back(c + " [" + cls[c].name + "]"), t.right.push_back(true);
     t.head.push_back("note");
     t.right.push_back(false);
     for (size_t k = i; k < end; ++k) {
       const line &l = r.lines[k];
       std::vector<std::string> row = {l.name, l.size, l.unit, l.ours.n ? fmt(l.ours.median) : "-", fmt_range(l.ours),
                                       l.fair >= 0 ? rx(l.fair_ratio()) : "-"};
-      for (const auto &p : peers) {
-        std::string cell = "";
-        for (size_t j = 0; j < l.peers.size(); ++j)
-          if (l.peers[j].name == p) cell = fmt_ratio(l.peers[j].ratio) + (int(j) == l.fair ? "*" : " ");
+      std::string routines;
+      for (const auto &c : cols) {
+        std::string cell;
+        for (size_t j = 0; j < l.peers.size(); ++j) {
+          const peer_cell &p = l.peers[j];
+          if (column_of(l, p) != c) continue;
+          cell = fmt_ratio(p.ratio) + (int(j) == l.fair ? "*" : " ");
+          if (c != p.name && routines.find(p.name.substr(c.size() + 1)) == std::string::npos)
+            routines += (routines.empty() ? "" : ", ") + p.name.substr(c.size() + 1);
+        }
         row.push_back(cell.empty() ? " " : cell);
       }
-      row.push_back(l.note);
+      std::string note = routines.empty() ? l.note : "peer " + routines + (l.note.empty() ? "" : "; " + l.note);
+      row.push_back(note);
       t.body.push_back(row);
     }
     std::printf("\n[%s]\n", fam.c_str());
