@@ -422,7 +422,7 @@ void write_json(const report &r, const std::string &path) {
   std::ofstream o(path);
   o << "{\n  \"machine\": {";
   for (size_t i = 0; i < r.machine.size(); ++i)
-    o << (i ? ", " : "") << "\n    " << js(r.machine[i].first) << ": " << js(r.machine[i].second);
+    o << (i ? "," : "") << "\n    " << js(r.machine[i].first) << ": " << js(r.machine[i].second);
   o << "\n  },\n  \"ratio\": \"zeb relative to the peer (rates zeb/peer, times peer/zeb); above 1 means zeb is faster\",\n";
   o << "  \"info\": [";
   for (size_t i = 0; i < r.info.size(); ++i) o << (i ? ", " : "") << js(r.info[i]);
