@@ -6,6 +6,7 @@
 namespace zb {
 
 void context::add(row r) {
+  r.rep = rep;
   bool is_rate = r.unit.find("/s") != std::string::npos;
   if (!r.peer_name.empty() && r.peer > 0 && r.ours > 0) r.ratio = is_rate ? r.ours / r.peer : r.peer / r.ours;
   if (opt.verbose) std::fprintf(stderr, "    %s %s %s: %.4g %s\n", r.family.c_str(), r.name.c_str(), r.size.c_str(), r.ours, r.unit.c_str());

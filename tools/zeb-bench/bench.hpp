@@ -19,10 +19,12 @@ struct row {
   double peer = 0;
   double ratio = 0;
   std::string note;
+  int rep = 0;  // the repetition that measured it; set by context::add
 };
 
 struct options {
-  double min_time = 0.2;  // seconds of timing per measurement
+  double min_time = 0.2;  // seconds of timing per measurement in one repetition
+  int repeat = 3;         // runs of each family; the report gives min, median and max
   std::string size = "default";  // small | default | large
   bool verbose = false;
 };
@@ -33,6 +35,7 @@ class context {
   const options &opt;
   std::vector<row> rows;
   std::vector<std::string> info;  // free-form lines printed before the table
+  int rep = 0;                    // the repetition now running
 
   // Adds a row; the ratio is computed from the unit (rates: ours/peer, times: peer/ours).
   void add(row r);

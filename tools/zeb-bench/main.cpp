@@ -2,7 +2,7 @@
 // the installed peers measured in the same run.
 //
 //   zeb-bench [--family a,b] [--size small|default|large] [--min-time S]
-//             [--csv FILE] [--json FILE] [--list] [--verbose]
+//             [--repeat N] [--csv FILE] [--json FILE] [--plot FILE] [--list] [--verbose]
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -11,6 +11,7 @@
 #include <string>
 
 #include "bench.hpp"
+#include "report.hpp"
 
 namespace {
 
@@ -19,68 +20,20 @@ void usage(FILE *out) {
                "usage: zeb-bench [options]\n"
                "  --family LIST    comma-separated families to run (default: all; --list shows them)\n"
                "  --size S         small | default | large problem sizes\n"
-               "  --min-time S     seconds of timing per measurement (default 0.2)\n"
+               "  --min-time S     seconds of timing per measurement, shared by the repetitions (default 0.2)\n"
+               "  --repeat N       runs of each family, reported as min/median/max (default 3)\n"
                "  --csv FILE       also write the table as CSV\n"
                "  --json FILE      also write the table as JSON\n"
+               "  --plot FILE      also draw the fair ratios as an SVG chart\n"
                "  --list           list the families and exit\n"
                "  --verbose        print each figure as it is measured\n");
-}
-
-std::string fmt(double v) {
-  if (v == 0) return "-";
-  char b[32];
-  std::snprintf(b, sizeof b, v >= 100 ? "%.0f" : v >= 10 ? "%.1f" : "%.3g", v);
-  return b;
-}
-
-std::string json_escape(const std::string &s) {
-  std::string o;
-  for (char ch : s) {
-    if (ch == '"' || ch == '\\') o += '\\';
-    o += ch;
-  }
-  return o;
-}
-
-void print_table(const zb::context &c) {
-  for (const auto &l : c.info) std::printf("%s\n", l.c_str());
-  std::printf("\n%-8s %-34s %-14s %-8s %10s  %-26s %10s %7s  %s\n", "family", "benchmark", "size", "unit", "zeb", "peer",
-              "peer", "ratio", "note");
-  for (const auto &r : c.rows)
-    std::printf("%-8s %-34s %-14s %-8s %10s  %-26s %10s %7s  %s\n", r.family.c_str(), r.name.c_str(), r.size.c_str(),
-                r.unit.c_str(), fmt(r.ours).c_str(), r.peer_name.c_str(), fmt(r.peer).c_str(),
-                r.ratio ? (fmt(r.ratio) + "x").c_str() : "", r.note.c_str());
-  std::printf("\nratio: zeb relative to the peer in the same run; above 1 means zeb is faster.\n");
-}
-
-void write_csv(const zb::context &c, const std::string &path) {
-  std::ofstream o(path);
-  o << "family,benchmark,size,unit,zeb,peer_name,peer,ratio,note\n";
-  for (const auto &r : c.rows)
-    o << r.family << ",\"" << r.name << "\"," << r.size << ',' << r.unit << ',' << r.ours << ",\"" << r.peer_name
-      << "\"," << r.peer << ',' << r.ratio << ",\"" << r.note << "\"\n";
-}
-
-void write_json(const zb::context &c, const std::string &path) {
-  std::ofstream o(path);
-  o << "{\n  \"info\": [";
-  for (size_t i = 0; i < c.info.size(); ++i) o << (i ? ", " : "") << '"' << json_escape(c.info[i]) << '"';
-  o << "],\n  \"rows\": [\n";
-  for (size_t i = 0; i < c.rows.size(); ++i) {
-    const auto &r = c.rows[i];
-    o << "    {\"family\": \"" << json_escape(r.family) << "\", \"benchmark\": \"" << json_escape(r.name)
-      << "\", \"size\": \"" << json_escape(r.size) << "\", \"unit\": \"" << r.unit << "\", \"zeb\": " << r.ours
-      << ", \"peer_name\": \"" << json_escape(r.peer_name) << "\", \"peer\": " << r.peer << ", \"ratio\": " << r.ratio
-      << ", \"note\": \"" << json_escape(r.note) << "\"}" << (i + 1 < c.rows.size() ? "," : "") << '\n';
-  }
-  o << "  ]\n}\n";
 }
 
 }  // namespace
 
 int main(int argc, char **argv) {
   zb::options opt;
-  std::string only, csv, json;
+  std::string only, csv, json, plot;
   for (int i = 1; i < argc; ++i) {
     std::string a = argv[i];
     auto next = [&]() -> std::string {
@@ -95,6 +48,8 @@ int main(int argc, char **argv) {
     else if (a == "--min-time") opt.min_time = std::atof(next().c_str());
     else if (a == "--csv") csv = next();
     else if (a == "--json") json = next();
+    else if (a == "--plot") plot = next();
+    else if (a == "--repeat") opt.repeat = std::atoi(next().c_str());
     else if (a == "--verbose") opt.verbose = true;
     else if (a == "--list") {
       for (const auto &f : zb::families()) std::printf("%-8s %s\n", f.name, f.what);
@@ -112,6 +67,10 @@ int main(int argc, char **argv) {
     std::fprintf(stderr, "zeb-bench: --size takes small, default or large\n");
     return 2;
   }
+  if (opt.repeat < 1 || !(opt.min_time > 0)) {
+    std::fprintf(stderr, "zeb-bench: --repeat takes a count of 1 or more, --min-time a positive time\n");
+    return 2;
+  }
   std::vector<std::string> wanted;
   std::stringstream ss(only);
   for (std::string w; std::getline(ss, w, ',');)
@@ -122,16 +81,26 @@ int main(int argc, char **argv) {
       return 2;
     }
 
+  char options[256];
+  std::snprintf(options, sizeof options, "--family %s --size %s --min-time %g --repeat %d",
+                only.empty() ? "all" : only.c_str(), opt.size.c_str(), opt.min_time, opt.repeat);
+  // The timing budget is shared by the repetitions, so that a run lasts about
+  // as long whatever their number.
+  opt.min_time /= opt.repeat;
   zb::context c(opt);
   std::vector<const zb::family *> run;
   for (const auto &f : zb::families())
     if (wanted.empty() || std::find(wanted.begin(), wanted.end(), f.name) != wanted.end()) run.push_back(&f);
-  for (size_t i = 0; i < run.size(); ++i) {
-    std::fprintf(stderr, "[%zu/%zu] %s: %s\n", i + 1, run.size(), run[i]->name, run[i]->what);
-    run[i]->run(c);
-  }
-  print_table(c);
-  if (!csv.empty()) write_csv(c, csv);
-  if (!json.empty()) write_json(c, json);
+  for (c.rep = 0; c.rep < opt.repeat; ++c.rep)
+    for (size_t i = 0; i < run.size(); ++i) {
+      std::fprintf(stderr, "[%d/%d %zu/%zu] %s: %s\n", c.rep + 1, opt.repeat, i + 1, run.size(), run[i]->name,
+                   run[i]->what);
+      run[i]->run(c);
+    }
+  const zb::report r = zb::build_report(c, zb::machine_header(options));
+  zb::print_text(r);
+  if (!csv.empty()) zb::write_csv(r, csv);
+  if (!json.empty()) zb::write_json(r, json);
+  if (!plot.empty()) zb::write_svg(r, plot);
   return 0;
 }

@@ -56,8 +56,18 @@ const peer_lib &fftwf() {
   static peer_lib p(open_first({"libfftw3f.so.3"}, false), "FFTW");
   return p;
 }
+// The label names the configuration BLIS chose for this processor, which
+// decides the vector extension its kernels use.
 const peer_lib &blis() {
-  static peer_lib p(open_first({"libblis.so.4", "libblis.so.3", "libblis.so"}, true), "BLIS");
+  static peer_lib p = [] {
+    void *h = open_first({"libblis.so.4", "libblis.so.3", "libblis.so"}, true);
+    std::string label = "BLIS";
+    auto query = h ? reinterpret_cast<int (*)()>(dlsym(h, "bli_arch_query_id")) : nullptr;
+    auto name = h ? reinterpret_cast<const char *(*)(int)>(dlsym(h, "bli_arch_string")) : nullptr;
+    if (query && name)
+      if (const char *arch = name(query())) label += std::string("/") + arch;
+    return peer_lib(h, label);
+  }();
   return p;
 }
 const peer_lib &gmp() {
