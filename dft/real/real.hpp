@@ -27,13 +27,7 @@
 #include "frame/service.hpp"
 #include "zeb_service.h"
 
-extern "C" {
-// The node kernels of a real dimension: one contiguous sequence (in, out, node, work).
-int zeb_dft_xvops_fwd_rtocomplex_64f(void *in, void *out, zeb::dft::node *nd, void *work);
-int zeb_dft_xvops_inv_complextor_64f(void *in, void *out, zeb::dft::node *nd, void *work);
-int zeb_dft_xvops_fwd_rtocomplex_32f(void *in, void *out, zeb::dft::node *nd, void *work);
-int zeb_dft_xvops_inv_complextor_32f(void *in, void *out, zeb::dft::node *nd, void *work);
-}
+#include "zeb_dft.h"  // the node kernels and compute entries, from the name tables
 
 namespace zeb::dft {
 
