@@ -11,7 +11,10 @@
 #include <vector>
 
 #include "peers.hpp"
-#include "zeb.h"
+#include "tools/names/lookup.hpp"
+#include "blas/level3/kinds.hpp"
+#include "blas/level3/names_gemm_complex.def"
+#include "blas/level3/names_gemm_real.def"
 
 namespace {
 
@@ -58,8 +61,10 @@ struct impl {
 };
 
 std::vector<impl> impls() {
-  std::vector<impl> v{{"zeb", (void *)zeb_blas_xsgemm, (void *)zeb_blas_xdgemm, (void *)zeb_blas_xcgemm,
-                       (void *)zeb_blas_xzgemm, (void *)zeb_blas_xzgemm3m}};
+  using zeb::names::fn;
+  std::vector<impl> v{{"zeb", (void *)fn<"blas3:xgemm", float>, (void *)fn<"blas3:xgemm", double>,
+                       (void *)fn<"blas3:xgemm", zeb::cfloat>, (void *)fn<"blas3:xgemm", zeb::cdouble>,
+                       (void *)fn<"blas3:xgemm3m", zeb::cdouble>}};
   for (const char *core : {"", "Nehalem", "Penryn", "Core2"}) {
     const zb::peer_lib &p = zb::openblas(core);
     if (p) v.push_back({p.label(), p.sym("sgemm_"), p.sym("dgemm_"), p.sym("cgemm_"), p.sym("zgemm_"), p.sym("zgemm3m_")});

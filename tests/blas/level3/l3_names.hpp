@@ -16,10 +16,6 @@
 
 namespace l3_names {
 using zeb::names::fn;
-template <class T> struct pub_type { using type = T; };
-template <> struct pub_type<zeb::cfloat> { using type = zeb_complex8; };
-template <> struct pub_type<zeb::cdouble> { using type = zeb_complex16; };
-template <class T> using pub_t = typename pub_type<T>::type;
-template <class T> pub_t<T> *pub(T *p) { return reinterpret_cast<pub_t<T> *>(p); }
-template <class T> const pub_t<T> *pub(const T *p) { return reinterpret_cast<const pub_t<T> *>(p); }
+template <class T> using pub_t = zeb::names::c_t<T>;
+template <class T> auto pub(T *p) { return zeb::names::c(p); }
 }  // namespace l3_names

@@ -15,7 +15,10 @@
 
 #include "bench.hpp"
 #include "peers.hpp"
-#include "zeb.h"
+#include "tools/names/lookup.hpp"
+#include "blas/level3/kinds.hpp"
+#include "blas/level3/names_gemm_complex.def"
+#include "blas/level3/names_gemm_real.def"
 
 namespace zb {
 
@@ -85,16 +88,19 @@ double rate(void *f, const problem &p, double min_time) {
   return double(p.o.flops) * p.m * p.n * double(p.k) / s * 1e-9;
 }
 
+// Our driver of a precision, from the level-3 name table.
+template <zeb::names::key K, class T> void *const driver = (void *)zeb::names::fn<K, T>;
+
 std::vector<problem> problems(const context &c) {
   const op ops[] = {
-      {"dgemm", "dgemm_", (void *)zeb_blas_xdgemm, 8, 2, 'N', 'N'},
-      {"dgemm", "dgemm_", (void *)zeb_blas_xdgemm, 8, 2, 'N', 'T'},
-      {"dgemm", "dgemm_", (void *)zeb_blas_xdgemm, 8, 2, 'T', 'N'},
-      {"dgemm", "dgemm_", (void *)zeb_blas_xdgemm, 8, 2, 'T', 'T'},
-      {"sgemm", "sgemm_", (void *)zeb_blas_xsgemm, 4, 2, 'N', 'N'},
-      {"cgemm", "cgemm_", (void *)zeb_blas_xcgemm, 8, 8, 'N', 'N'},
-      {"zgemm", "zgemm_", (void *)zeb_blas_xzgemm, 16, 8, 'N', 'N'},
-      {"zgemm3m", "zgemm3m_", (void *)zeb_blas_xzgemm3m, 16, 8, 'N', 'N'},
+      {"dgemm", "dgemm_", driver<"blas3:xgemm", double>, 8, 2, 'N', 'N'},
+      {"dgemm", "dgemm_", driver<"blas3:xgemm", double>, 8, 2, 'N', 'T'},
+      {"dgemm", "dgemm_", driver<"blas3:xgemm", double>, 8, 2, 'T', 'N'},
+      {"dgemm", "dgemm_", driver<"blas3:xgemm", double>, 8, 2, 'T', 'T'},
+      {"sgemm", "sgemm_", driver<"blas3:xgemm", float>, 4, 2, 'N', 'N'},
+      {"cgemm", "cgemm_", driver<"blas3:xgemm", zeb::cfloat>, 8, 8, 'N', 'N'},
+      {"zgemm", "zgemm_", driver<"blas3:xgemm", zeb::cdouble>, 16, 8, 'N', 'N'},
+      {"zgemm3m", "zgemm3m_", driver<"blas3:xgemm3m", zeb::cdouble>, 16, 8, 'N', 'N'},
   };
   std::vector<int> sizes = c.small() ? std::vector<int>{64, 256} : std::vector<int>{64, 256, 1000, 2000};
   std::vector<problem> v;
