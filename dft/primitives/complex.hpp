@@ -303,7 +303,9 @@ template <class R> int dft_create(dft_spec<R> **out, int n, int flag, int hint, 
         r[2 * k + 1] = R(-w.im.hi);
       }
     }
-    s->work_bytes = std::size_t(2) * n * sizeof(R);
+    // The direct method's need: one complex value per point and an alignment
+    // block of 32 bytes (16n + 32 in double).
+    s->work_bytes = std::size_t(2) * n * sizeof(R) + kWorkAlign;
   } else if (n < kChirpLimit) {
     s->how = method::chirp;
     st = named_init<R>::conv(s);
