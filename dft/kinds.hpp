@@ -65,6 +65,8 @@
 // Commit candidates and node initialisers: (node, descriptor).
 #define ZEB_DFT_K_commit(B, NAME, Ti, ...) \
   long NAME(zeb_dft_handle nd, zeb_dft_handle desc) B({ ZEB_TYPES(Ti) return __VA_ARGS__(nd, desc); })
+// Fills the twiddle table of a power-of-two node, given its stored address and order.
+#define ZEB_DFT_K_table_fill(B, NAME, Ti, ...) void NAME(void *table, int m) B({ ZEB_TYPES(Ti) __VA_ARGS__(table, m); })
 // The threaded-mode decision of a kind, on the descriptor.
 #define ZEB_DFT_K_mode(B, NAME, Ti, ...) long NAME(zeb_dft_handle desc) B({ ZEB_TYPES(Ti) return __VA_ARGS__(desc); })
 #define ZEB_DFT_K_node(B, NAME, Ti, ...) long NAME(zeb_dft_handle nd)

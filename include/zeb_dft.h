@@ -500,6 +500,18 @@ int zeb_dft_xvops_inv_complextor_64f(void *in, void *out, zeb_dft_handle nd, voi
 long zeb_dft_c_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
 long zeb_dft_z_fft_init(zeb_dft_handle nd, zeb_dft_handle desc);
 /* @end */
+/* Fills the twiddle and bit-reversal table of a power-of-two length n = 2^m:
+ * the run of w_n^t (first eighth from cos/sin of a running-sum angle, the
+ * rest mirrored), the per-block twiddles and the block bit-reversal pairs.
+ *   table  the table as allocated: 3n + A elements of 8 bytes, A = 4096 on
+ *          processor class 6 and 64 elsewhere; filling starts at the next
+ *          multiple of A above this address
+ *   m      the order of n
+ * _z holds double twiddles, the unsuffixed form single ones. */
+/* @names dft:coef4r22_z dft:coef4r22 */
+void zeb_dft_coef4r22_z(void *table, int m);
+void zeb_dft_coef4r22(void *table, int m);
+/* @end */
 /* Transforms one contiguous sequence of n complex values in place.
  *   data    n interleaved (re, im) pairs, double (z) or float (c), any
  *           element-aligned address

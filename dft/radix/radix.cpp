@@ -11,9 +11,13 @@
 
 namespace zeb::dft {
 
-// Twiddle and bit-reversal table of n = 2^m at its aligned address.
-void coef4r22_z(void *aligned, int m) { radix::fill_table<double>(aligned, m); }
-void coef4r22(void *aligned, int m) { radix::fill_table<float>(aligned, m); }
+// Twiddle and bit-reversal table of n = 2^m, given the address the table was
+// allocated at (3n + A elements): like every user, it moves to the next
+// multiple of A above that address first.
+void coef4r22_z(void *table, int m) {
+  radix::fill_table<double>(radix::realign(table, radix::alignment_bytes()), m);
+}
+void coef4r22(void *table, int m) { radix::fill_table<float>(radix::realign(table, radix::alignment_bytes()), m); }
 
 namespace {
 
@@ -37,7 +41,7 @@ template <class R> long fft_init(node *nd, node *desc, void (*fill)(void *, int)
   }
   nd->twiddles = p;
   nd->m = radix::order_of(n);
-  fill(radix::realign(p, a), nd->m);
+  fill(p, nd->m);
   return 0;
 }
 

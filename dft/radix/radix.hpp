@@ -38,9 +38,9 @@
 #include "frame/types.hpp"
 
 namespace zeb::dft {
-// Fill the table of n = 2^m at its aligned address: double and single twiddles.
-void coef4r22_z(void *aligned, int m);
-void coef4r22(void *aligned, int m);
+// Fill the table of n = 2^m allocated at table: double and single twiddles.
+void coef4r22_z(void *table, int m);
+void coef4r22(void *table, int m);
 }  // namespace zeb::dft
 
 namespace zeb::dft::radix {

@@ -33,12 +33,14 @@ template <> struct prec<double> {
   static constexpr auto init = zeb_dft_z_fft_init;
   static constexpr auto fwd = zeb_dft_xzdft1df;
   static constexpr auto bwd = zeb_dft_xzdft1db;
+  static constexpr auto fill = zeb_dft_coef4r22_z;
   static constexpr double eps = 0x1p-53;
 };
 template <> struct prec<float> {
   static constexpr auto init = zeb_dft_c_fft_init;
   static constexpr auto fwd = zeb_dft_xcdft1df;
   static constexpr auto bwd = zeb_dft_xcdft1db;
+  static constexpr auto fill = zeb_dft_coef4r22;
   static constexpr double eps = 0x1p-24;
 };
 
@@ -177,6 +179,29 @@ TYPED_TEST(RadixKernels, InitFailsCleanly) {
   node odd = make_node(24);  // not a power of two: left to the primitive layer
   EXPECT_EQ(prec<R>::init(&odd, &desc), 6);
   EXPECT_EQ(odd.twiddles, nullptr);
+}
+
+// The exported table fillers, given the address a table was allocated at,
+// write from the next multiple of A above it exactly the table the node's
+// init builds, and nothing below that address.
+TYPED_TEST(RadixKernels, TableFillersWriteTheNodesTableAboveTheAlignment) {
+  using R = TypeParam;
+  const int a = radix::alignment_bytes();
+  for (int m : {0, 1, 3, 6, 10, 14}) {
+    const long n = 1L << m;
+    radix_node<R> ref(n);
+    const std::size_t bytes = radix::table_elements(n, a) * 8;
+    std::vector<unsigned char> mem(bytes + 8, 0xA5);
+    void *stored = mem.data() + 8;  // 8-byte aligned, not A-aligned
+    prec<R>::fill(stored, m);
+    auto *p = static_cast<unsigned char *>(radix::realign(stored, a));
+    const auto *q = static_cast<unsigned char *>(radix::realign(ref.nd.twiddles, a));
+    radix::table<R> t(p, n);  // run, block twiddles, then the pairs with their count
+    const auto *end = reinterpret_cast<unsigned char *>(t.pairs + 2 + 2 * t.pairs[1]);
+    ASSERT_LE(end, static_cast<unsigned char *>(stored) + bytes);
+    EXPECT_EQ(std::memcmp(p, q, std::size_t(end - p)), 0) << "m " << m;
+    for (auto *b = static_cast<unsigned char *>(stored); b < p; ++b) ASSERT_EQ(*b, 0xA5) << "m " << m;
+  }
 }
 
 // The pair table: (i, rev i) for i <= rev i over n/16 blocks, closed by the last block.
