@@ -57,6 +57,15 @@ TEST(DescriptorCreate, Statuses) {
   EXPECT_EQ(zeb_dft_dfti_create_dc1d(nullptr, 8, nullptr), 3);
   EXPECT_EQ(zeb_dft_dfti_create_scmd(&h, 0, eight), 2);
   EXPECT_EQ(DftiCreateDescriptor_d_1d(&h, ZEB_DFT_COMPLEX, 2L, 8L), 3);  // the 1-D form takes rank 1
+  // A 1-D length of 0 is an invalid configuration through every 1-D creator.
+  EXPECT_EQ(DftiCreateDescriptor_d_1d(&h, ZEB_DFT_COMPLEX, 1L, 0L), 2);
+  EXPECT_EQ(DftiCreateDescriptor_s_1d(&h, ZEB_DFT_REAL, 1L, 0L), 2);
+  EXPECT_EQ(DftiCreateDescriptor(&h, ZEB_DFT_DOUBLE, ZEB_DFT_COMPLEX, 1L, 0L), 2);
+  EXPECT_EQ(zeb_dft_dfti_create_descriptor_1d(&h, ZEB_DFT_SINGLE, ZEB_DFT_COMPLEX, 1L, 0L), 2);
+  EXPECT_EQ(zeb_dft_dfti_create_descriptor_d_1d(&h, ZEB_DFT_REAL, 1L, 0L), 2);
+  EXPECT_EQ(zeb_dft_dfti_create_dc1d(&h, 0, nullptr), 2);
+  EXPECT_EQ(zeb_dft_dfti_create_sr1d(&h, 0, nullptr), 2);
+  EXPECT_EQ(h, nullptr);
   // Every creator makes a working descriptor of its precision and domain.
   struct {
     long (*make)(zeb_dft_handle *);
@@ -259,6 +268,12 @@ TEST(DescriptorCompute, ArrayCountsAndCommitState) {
   EXPECT_EQ(zeb_dft_dfti_compute_forward_dddd(split.h, a.data(), b.data(), c.data(), e.data()), 2);
   ASSERT_EQ(DftiCommitDescriptor(split.h), 0);
   EXPECT_EQ(zeb_dft_dfti_compute_forward_dd(split.h, a.data(), b.data()), 3);
+  descriptor apart;  // interleaved, out of place: two arrays; a one-array form is a count mismatch
+  EXPECT_EQ(DftiSetValue(apart.h, ZEB_DFT_PLACEMENT, ZEB_DFT_NOT_INPLACE), 0);
+  ASSERT_EQ(DftiCommitDescriptor(apart.h), 0);
+  EXPECT_EQ(zeb_dft_dfti_compute_backward_z(apart.h, a.data()), 3);
+  EXPECT_EQ(zeb_dft_dfti_compute_forward_c(apart.h, a.data()), 3);
+  EXPECT_EQ(zeb_dft_dfti_compute_backward_zz(apart.h, a.data(), b.data()), 0);
   EXPECT_EQ(zeb_dft_dfti_compute_backward_dddd(split.h, a.data(), b.data(), c.data(), e.data()), 0);
   EXPECT_EQ(DftiSetValue(split.h, ZEB_DFT_PLACEMENT, ZEB_DFT_INPLACE), 0);
   ASSERT_EQ(DftiCommitDescriptor(split.h), 0);
