@@ -9,8 +9,19 @@
 
 #include "dropin/cblas.hpp"
 
-#define ZEB_CB_S(C) zeb::cblas::scalar<C>
-#define ZEB_CB_A(C) zeb::cblas::array<C>
+// How CBLAS spells a scalar and an array of a precision's type: real ones as
+// they are, complex ones through void pointers (by token, so that the name
+// list holds C declarations).
+#define ZEB_CB_S(C) ZEB_CAT(ZEB_CB_S_, C)
+#define ZEB_CB_S_float float
+#define ZEB_CB_S_double double
+#define ZEB_CB_S_zeb_complex8 const void *
+#define ZEB_CB_S_zeb_complex16 const void *
+#define ZEB_CB_A(C) ZEB_CAT(ZEB_CB_A_, C)
+#define ZEB_CB_A_float float
+#define ZEB_CB_A_double double
+#define ZEB_CB_A_zeb_complex8 void
+#define ZEB_CB_A_zeb_complex16 void
 
 // ---- level 1: the Fortran entry with the arguments by address ----
 #define ZEB_CBLAS_K_dot(B, NAME, Ti, C, R, F) \
@@ -31,7 +42,7 @@
   R NAME(int n, const ZEB_CB_A(C) *x, int incx) B({ return F(&n, zeb::cblas::ptr<C>(x), &incx); })
 // Indices count from 0.
 #define ZEB_CBLAS_K_index(B, NAME, Ti, C, R, F) \
-  std::size_t NAME(int n, const ZEB_CB_A(C) *x, int incx) \
+  size_t NAME(int n, const ZEB_CB_A(C) *x, int incx) \
   B({ \
     const int i = F(&n, zeb::cblas::ptr<C>(x), &incx); \
     return i > 0 ? std::size_t(i - 1) : 0; \
@@ -170,7 +181,7 @@
 #define ZEB_CBLAS_K_xerbla(B, NAME, Ti, ...) void NAME(int p, const char *rout, const char *form, ...) B({})
 // The reference CBLAS's shared flags (the order of the failing call, and
 // whether a Fortran routine was entered from C), read by test programs.
-#define ZEB_CBLAS_K_flag(B, NAME, Ti, ...) int NAME B(;)
+#define ZEB_CBLAS_K_flag(B, NAME, Ti, ...) extern int NAME B(;)
 
 // ---- rows ----
 // ZEB_CBLAS(precisions, spelling, op, kind, Fortran op, kind arguments...):

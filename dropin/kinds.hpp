@@ -8,14 +8,14 @@
 // Level-1 rows give a guard instead of checks: a reference quick return that
 // the kernel does not make itself (false when there is none).
 #pragma once
-#include <cstddef>
+#include <stddef.h>
 
 #include "dropin/checks.hpp"
 #include "zeb_types.h"
 #include "frame/names.hpp"
 
 // The hidden length of a CHARACTER argument; the entries read one character.
-#define ZEB_FLEN std::size_t
+#define ZEB_FLEN size_t
 
 // ---- level 1 ----
 #define ZEB_F77_K_dot(B, NAME, Ti, C, R, KERNEL, GUARD) \

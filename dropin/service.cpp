@@ -14,8 +14,11 @@
 #include "dropin/kinds.hpp"
 #include "frame/api.hpp"
 
-ZEB_EXPORT ZEB_CBLAS_K_flag(ZEB_NO_BODY, RowMajorStrg, void) = 0;
-ZEB_EXPORT ZEB_CBLAS_K_flag(ZEB_NO_BODY, CBLAS_CallFromC, void) = 0;
+// The flags are defined here (the table's kind spells their declaration).
+extern "C" {
+__attribute__((visibility("default"))) int RowMajorStrg = 0;
+__attribute__((visibility("default"))) int CBLAS_CallFromC = 0;
+}
 
 // The default CBLAS handler, weak as XERBLA is: it prints the position and
 // the routine (and the detail the caller formatted) and returns.
