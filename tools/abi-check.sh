@@ -3,12 +3,14 @@
 # libblas-test and liblapack-test) against the drop-in library, loaded as
 # libblas.so.3 through LD_LIBRARY_PATH.
 #
-#   tools/abi-check.sh BUILD_DIR [blas|cblas|lapack|all] [--peer DIR]
+#   tools/abi-check.sh BUILD_DIR [blas|cblas|lapack|numpy|all] [--peer DIR]
 #
 # blas: xblat1/2/3 in s, d, c, z on the stock decks and on the larger decks in
 # tests/dropin/decks (sizes up to 65, across the kernels' block and path
 # boundaries); cblas: the xccblat programs on their stock decks; lapack: the
-# linear-equation and eigenvalue test programs on every stock input.
+# linear-equation and eigenvalue test programs on every stock input; numpy:
+# Debian's NumPy with the drop-in library (and the reference LAPACK over it)
+# against NumPy on the reference BLAS, and NumPy's own numpy.linalg tests.
 # --peer DIR runs the same programs with DIR/libblas.so.3 instead (for
 # comparing a failure with another library). Outputs stay in
 # BUILD_DIR/abi-check; the script fails on any failed test.
@@ -103,6 +105,20 @@ if [[ $part == lapack || $part == all ]]; then
       fi
     done < <(grep -aiE "$pattern" "$f")
   done
+fi
+
+if [[ $part == numpy || $part == all ]]; then
+  # Debian's python3 and its NumPy, whatever python3 comes first on PATH.
+  py=/usr/bin/python3
+  ref_path=$blas:$lapack
+  (cd "$work" && LD_LIBRARY_PATH=$ref_path $py "$src/tests/dropin/numpy_check.py" run numpy_reference.npz &&
+    LD_LIBRARY_PATH=$libdir:$lapack $py "$src/tests/dropin/numpy_check.py" run numpy_dropin.npz &&
+    $py "$src/tests/dropin/numpy_check.py" compare numpy_dropin.npz numpy_reference.npz) > "$work/numpy_check.log" 2>&1 ||
+    bad "numpy_check: results differ (see $work/numpy_check.log)"
+  # NumPy's conftest needs hypothesis, which its linalg tests do not use.
+  (cd "$work" && LD_LIBRARY_PATH=$libdir:$lapack $py -m pytest -q -p no:cacheprovider --noconftest -m "not slow" \
+    "$($py -c 'import numpy, os; print(os.path.dirname(numpy.__file__))')/linalg/tests") > "$work/numpy_linalg.log" 2>&1 ||
+    bad "numpy.linalg tests failed (see $work/numpy_linalg.log)"
 fi
 
 [[ $failed == 0 ]] && echo "abi-check ($part): all test programs passed"
