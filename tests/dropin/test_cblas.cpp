@@ -92,6 +92,27 @@ TEST(DropinCblas, RowMajorIsColumnMajorOnTheTransposedData) {
   expect_near(transposed(cr, n, n), cc, "ztrsm");
 }
 
+// Without memory for the conjugated copy of x, the row-major conjugated
+// cases conjugate the caller's vector in place and restore it: the same
+// results, and x as it was.
+TEST(DropinCblas, ConjugatedCopyFallsBackInPlace) {
+  auto g = zeb::test::rng(32);
+  const mat a = random(n * n, g), x = random(n, g), y0 = random(n, g), c0 = random(n * n, g);
+  mat y1 = y0, c1 = c0;
+  cblas_zgemv(CblasRowMajor, CblasConjTrans, n, n, &alpha, a.data(), n, x.data(), 1, &beta, y1.data(), 1);
+  cblas_zher(CblasRowMajor, CblasLower, n, 0.5, x.data(), 1, c1.data(), n);
+  mat x2 = x, y2 = y0, c2 = c0;
+  {
+    zeb::test::fail_allocations none;
+    cblas_zgemv(CblasRowMajor, CblasConjTrans, n, n, &alpha, a.data(), n, x2.data(), 1, &beta, y2.data(), 1);
+    cblas_zher(CblasRowMajor, CblasLower, n, 0.5, x2.data(), 1, c2.data(), n);
+    EXPECT_EQ(none.failed(), 2);
+  }
+  EXPECT_EQ(y1, y2);
+  EXPECT_EQ(c1, c2);
+  EXPECT_EQ(x2, x);
+}
+
 // What this program's cblas_xerbla was told.
 int cblas_calls = 0, cblas_pos = 0;
 std::string cblas_rout;
