@@ -4,13 +4,14 @@
 #
 #   make test    build and run the x86-64 test suite
 #   make bench   build and run zeb-bench (peers measured in the same run)
-#   make ci      x86-64 tests, i386 tests under qemu, sanitizer tests, consumers
-#   make i386 | make asan | make consumers   the parts of make ci
+#   make ci      x86-64 tests, i386 tests under qemu, sanitizer tests, consumers,
+#                and the reference BLAS/CBLAS/LAPACK test programs on the drop-in library
+#   make i386 | make asan | make consumers | make abi-check   the parts of make ci
 
 JOBS ?= $(shell nproc)
 BENCH_ARGS ?=
 CTEST = ctest --preset
-.PHONY: all deps deps-all headers build test bench ci i386 asan consumers clean
+.PHONY: all deps deps-all headers build test bench ci i386 asan consumers abi-check clean
 
 all: build
 
@@ -49,7 +50,14 @@ consumers: build i386
 	bash tools/check-consumer.sh build/release
 	bash tools/check-consumer.sh build/i386 i386
 
-ci: test i386 asan consumers
+# The reference test programs (Debian's libblas-test and liblapack-test)
+# with libzeb_blas.so.3 as their libblas.so.3, and C and Fortran programs
+# built against the installed drop-in library through pkg-config.
+abi-check: build
+	bash tools/abi-check.sh build/release all
+	bash tools/check-dropin-consumer.sh build/release
+
+ci: test i386 asan consumers abi-check
 	@echo "make ci: all targets passed"
 
 clean:

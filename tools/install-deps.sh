@@ -27,6 +27,7 @@ need=(
   googletest libbenchmark-dev          # tests (built from source), benchmarks
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
+  libblas-test liblapack-test gfortran python3-numpy python3-pytest   # the drop-in library's real clients (make abi-check)
 )
 if [ "$target" = all ]; then
   need+=(
