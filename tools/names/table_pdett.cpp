@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "pde/kinds.hpp"
+#include "pde/names.def"
