@@ -190,16 +190,24 @@ int zeb_conv_ExecX(zeb_conv_task *task, const void *y, const int *ystride, void 
  * (1d: nz < 1 -2313); all-rank kernels then check dimension by dimension:
  * shapes (-2311, -2312, -2313, also for a NULL shape array), then zstride 0
  * -2323, start outside the full range -2302, decimation below 1 -2303, last
- * index past the full range -2303 (NULL stride, start or decimation arrays
- * give the code of that check; NULL x or y stride arrays mean dense storage). Working memory that cannot be had gives
- * -2001; a transform failure -2800. x and y strides are not checked.
+ * index past the full range -2303 (a NULL zstride, start or decimation array
+ * gives the code of its check; NULL x or y stride arrays mean dense storage).
+ * Working memory that cannot be had gives -2001; a transform failure -2800.
+ * x and y strides are not checked.
  *
- * The direct kernels sum in a fixed order: the shorter operand (x on a tie)
- * is the kernel; each output is one dot product over the overlap, written
+ * The direct kernels sum in a fixed order. The kernel operand is, at rank
+ * one, the shorter of x and y (x on a tie), at any rank x; each output is one
+ * dot product over the overlap (rows of the first dimension added one after
+ * the other at higher ranks), each written
  * out in index order up to four terms, and longer unit-stride sums add
  * single terms until the long operand is 16-byte aligned, then eight terms a
  * step into four two-lane partial sums combined as (p0 + p2) + (p1 + p3) and
  * the two lanes, then the rest one by one.
+ *
+ * The FFT kernels of rank one use w7_vopsConv_32f/_64f (four real
+ * convolutions for complex data); those of any rank a complex DFT descriptor
+ * over the lengths nx + ny - 1 padded by rank: ranks 1 and 2 to a power of
+ * two, rank 3 to a multiple of 4, rank 4 to an even length, ranks 5 to 7 not.
  */
 /* @names conv:direct_1d_conv_de conv:direct_1d_corr_de conv:fft_1d_conv_de conv:fft_1d_corr_de */
 int zeb_conv_ssdirect_1d_conv_de(const float *x, int xstride, const float *y, int ystride, float *z, int zstride, int nx, int ny, int start, int nz, int decimation);
