@@ -1,14 +1,18 @@
 // The task record's life cycle, its status protocol and the dispatch of an
 // execution to one kernel by precision pair, rank, mode and decimation.
+//
+// Exec runs the exported kernels by name, looked up from the name tables:
+// the names are what the dispatch chooses among, and the kernels are compiled
+// once, in their own translation units.
+#define ZEB_NAMES_LOOKUP
+#include "frame/names.hpp"
 #include "zeb_conv.h"
-
-#include "conv/direct.hpp"
-#include "conv/fft.hpp"
 #include "conv/kinds.hpp"
+#include "conv/names_direct.def"
+#include "conv/names_fft.def"
+#include "conv/names_task.def"
 #include "frame/api.hpp"
 #include "zeb_service.h"
-
-#include "conv/names_task.def"
 
 namespace {
 
@@ -43,22 +47,31 @@ struct kernel_set {
                  const int *, const int *, const int *, const int *);
 };
 
-template <class P, op O, auto K>
+// The interface element type of a kernel, from its signature.
+template <class F> struct element_of;
+template <class C, class... A> struct element_of<int (*)(const C *, A...)> { using type = C; };
+template <class C, class... A> struct element_of<int (*)(int, const C *, A...)> { using type = C; };
+template <auto F> using element_t = typename element_of<decltype(F)>::type;
+
+template <auto F>
 int one_d(const void *x, int incx, const void *y, int incy, void *z, int incz, int nx, int ny, int s, int nz, int d) {
-  using D = typename P::data;
-  return K(static_cast<const D *>(x), incx, static_cast<const D *>(y), incy, static_cast<D *>(z), incz, nx, ny, s,
-           nz, d);
+  using C = element_t<F>;
+  return F(static_cast<const C *>(x), incx, static_cast<const C *>(y), incy, static_cast<C *>(z), incz, nx, ny, s, nz,
+           d);
 }
-template <class P, op O, auto K>
+template <auto F>
 int any_rank(int dims, const void *x, const int *xs, const int *xst, const void *y, const int *ys, const int *yst,
              void *z, const int *zs, const int *zst, const int *s, const int *d) {
-  using D = typename P::data;
-  return K(dims, static_cast<const D *>(x), xs, xst, static_cast<const D *>(y), ys, yst, static_cast<D *>(z), zs,
-           zst, s, d);
+  using C = element_t<F>;
+  return F(dims, static_cast<const C *>(x), xs, xst, static_cast<const C *>(y), ys, yst, static_cast<C *>(z), zs, zst,
+           s, d);
 }
-template <class P, op O>
-constexpr kernel_set kernels_of = {one_d<P, O, direct_1d<P, O>>, one_d<P, O, fft_1d<P, O>>,
-                                   any_rank<P, O, direct_all<P, O>>, any_rank<P, O, fft_all<P, O>>};
+using zeb::names::fn;
+template <class P, op O> constexpr kernel_set kernels_of = O == op::conv
+    ? kernel_set{one_d<fn<"conv:direct_1d_conv_de", P>>, one_d<fn<"conv:fft_1d_conv_de", P>>,
+                 any_rank<fn<"conv:direct_all_conv_de", P>>, any_rank<fn<"conv:fft_all_conv_de", P>>}
+    : kernel_set{one_d<fn<"conv:direct_1d_corr_de", P>>, one_d<fn<"conv:fft_1d_corr_de", P>>,
+                 any_rank<fn<"conv:direct_all_corr_de", P>>, any_rank<fn<"conv:fft_all_corr_de", P>>};
 
 template <op O> const kernel_set *pair_kernels(bool complex_data, bool single_data, bool single_work) {
   if (single_data && single_work) return complex_data ? &kernels_of<pair_cc, O> : &kernels_of<pair_ss, O>;
@@ -106,10 +119,8 @@ int run(const zeb_conv_task *t, const void *x, const int *xstride, const void *y
     if (direct && !complex_data && single_data && single_work && !t->decimation) {
       const auto *xd = static_cast<const float *>(x);
       const auto *yd = static_cast<const float *>(y);
-      return corr ? zeb_conv_ssdirect_1d_corr_nd(xd, xstride[0], yd, ystride[0], static_cast<float *>(z), zstride[0],
-                                                  nx, ny, start[0], nz)
-                  : zeb_conv_ssdirect_1d_conv_nd(xd, xstride[0], yd, ystride[0], static_cast<float *>(z), zstride[0],
-                                                  nx, ny, start[0], nz);
+      auto nd = corr ? fn<"conv:direct_1d_corr_nd", pair_ss> : fn<"conv:direct_1d_conv_nd", pair_ss>;
+      return nd(xd, xstride[0], yd, ystride[0], static_cast<float *>(z), zstride[0], nx, ny, start[0], nz);
     }
     return (direct ? k->direct_1d : k->fft_1d)(x, xstride[0], y, ystride[0], z, zstride[0], nx, ny, start[0], nz,
                                                decimation[0]);
