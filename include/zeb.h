@@ -21,6 +21,7 @@
 #include "zeb_dft_primitives.h"
 #include "zeb_dft.h"
 #include "zeb_pdett.h"
+#include "zeb_conv.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

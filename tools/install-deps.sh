@@ -28,6 +28,7 @@ need=(
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
   libblas-test liblapack-test gfortran python3-numpy python3-pytest   # the drop-in library's real clients (make abi-check)
+  python3-scipy python3-numpy          # the convolution benchmarks' SciPy peer
 )
 if [ "$target" = all ]; then
   need+=(

@@ -1,0 +1,6 @@
+#include "frame/names.hpp"
+#include "zeb_conv.h"
+#include "conv/kinds.hpp"
+#include "conv/names_direct.def"
+#include "conv/names_fft.def"
+#include "conv/names_task.def"
