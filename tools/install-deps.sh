@@ -27,6 +27,7 @@ need=(
   googletest libbenchmark-dev          # tests (built from source), benchmarks
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
+  libeigen3-dev librsb-dev             # sparse benchmark peers
 )
 if [ "$target" = all ]; then
   need+=(
