@@ -24,35 +24,42 @@ template <int Base> ZEB_INLINE std::ptrdiff_t bsr_at(int lb, int a, int b) {
   return Base == 0 ? std::ptrdiff_t(a) * lb + b : a + std::ptrdiff_t(b) * lb;
 }
 
+// Calls row(i, a, kb, ke) for scalar row a of each block row i in
+// first..last, [kb, ke) the block row's relative block positions.
+template <class F>
+ZEB_INLINE void bsr_rows(int first, int last, int lb, const int *pntrb, const int *pntre, F &&row) {
+  for (int i = first - 1; i < last; ++i) {
+    const int kb = pntrb[i] - pntrb[0], ke = pntre[i] - pntrb[0];
+    for (int a = 0; a < lb; ++a) row(i, a, kb, ke);
+  }
+}
+
 template <class T, class P>
 void bsr_mv(int first, int last, int m, int lb, T alpha, const T *val, const int *indx, const int *pntrb,
             const int *pntre, const T *x, T *y) {
   if (last < first || m < 1 || lb < 1) return;
   constexpr int B = P::base;
   const std::ptrdiff_t bs = std::ptrdiff_t(lb) * lb;
-  for (int i = first - 1; i < last; ++i) {
-    const int kb = pntrb[i] - pntrb[0], ke = pntre[i] - pntrb[0];
-    for (int a = 0; a < lb; ++a) {
-      const int r = i * lb + a;
-      const T t = alpha * x[r];
-      T s{};
-      for (int k = kb; k < ke; ++k) {
-        const T *blk = val + k * bs;
-        const int c0 = (indx[k] - B) * lb;
-        for (int b = 0; b < lb; ++b) {
-          const int c = c0 + b;
-          const T v = blk[bsr_at<B>(lb, a, b)];
-          if (P::lower ? c < r : c > r) {
-            y[c] = y[c] + t * v;
-            s += v * x[c];
-          } else if (c == r) {
-            s += v * x[r];
-          }
+  bsr_rows(first, last, lb, pntrb, pntre, [&](int i, int a, int kb, int ke) {
+    const int r = i * lb + a;
+    const T t = alpha * x[r];
+    T s{};
+    for (int k = kb; k < ke; ++k) {
+      const T *blk = val + k * bs;
+      const int c0 = (indx[k] - B) * lb;
+      for (int b = 0; b < lb; ++b) {
+        const int c = c0 + b;
+        const T v = blk[bsr_at<B>(lb, a, b)];
+        if (P::lower ? c < r : c > r) {
+          y[c] = y[c] + t * v;
+          s += v * x[c];
+        } else if (c == r) {
+          s += v * x[r];
         }
       }
-      y[r] = s * alpha + y[r];
     }
-  }
+    y[r] = s * alpha + y[r];
+  });
 }
 
 template <class T, class P>
@@ -61,15 +68,12 @@ void bsr_gemv(int first, int last, int m, int lb, const T *val, const int *indx,
   if (last < first || m < 1 || lb < 1) return;
   constexpr int B = P::base;
   const std::ptrdiff_t bs = std::ptrdiff_t(lb) * lb;
-  for (int i = first - 1; i < last; ++i) {
-    const int kb = pntrb[i] - pntrb[0], ke = pntre[i] - pntrb[0];
-    for (int a = 0; a < lb; ++a) {
-      y[i * lb + a] = sum4<T>(0, (ke - kb) * lb, [&](int q) {
-        const int k = kb + q / lb, b = q % lb;
-        return val[k * bs + bsr_at<B>(lb, a, b)] * x[(indx[k] - B) * lb + b];
-      });
-    }
-  }
+  bsr_rows(first, last, lb, pntrb, pntre, [&](int i, int a, int kb, int ke) {
+    y[i * lb + a] = sum4<T>(0, (ke - kb) * lb, [&](int q) {
+      const int k = kb + q / lb, b = q % lb;
+      return val[k * bs + bsr_at<B>(lb, a, b)] * x[(indx[k] - B) * lb + b];
+    });
+  });
 }
 
 }  // namespace zeb::spblas

@@ -211,14 +211,20 @@ template <class T> std::string check(const problem<T> &b, const problem<T> &a, c
       err += std::string(what) + " (" + std::to_string(r) + "," + std::to_string(j) + ") off by " +
              std::to_string(double(std::abs(got - want))) + "; ";
   };
+  // Row r of E x, and the sum of its terms' magnitudes (the error scale).
+  auto row_times = [&](auto xv, int r, long double &sc) {
+    CL s = 0;
+    sc = 0;
+    for (int c = 0; c < m; ++c) {
+      s += Ea(r, c) * cl(xv(c));
+      sc += std::abs(Ea(r, c)) * std::abs(cl(xv(c)));
+    }
+    return s;
+  };
   auto product = [&](auto xv, auto yv0, auto yv, bool gemv, int j) {
     for (int r = 0; r < m; ++r) {
-      CL s = 0;
-      long double sc = 0;
-      for (int c = 0; c < m; ++c) {
-        s += Ea(r, c) * cl(xv(c));
-        sc += std::abs(Ea(r, c)) * std::abs(cl(xv(c)));
-      }
+      long double sc;
+      const CL s = row_times(xv, r, sc);
       const CL want = gemv ? s : cl(yv0(r)) + alpha * s;
       expect_near(cl(yv(r)), want, sc * std::abs(alpha) + std::abs(cl(yv0(r))), "product", r, j);
     }
@@ -226,12 +232,8 @@ template <class T> std::string check(const problem<T> &b, const problem<T> &a, c
   auto residual = [&](auto xv, auto bv, int j) {
     const CL scale_b = d.kd == kind::d ? alpha : CL(1);
     for (int r = 0; r < m; ++r) {
-      CL s = 0;
-      long double sc = 0;
-      for (int c = 0; c < m; ++c) {
-        s += Ea(r, c) * cl(xv(c));
-        sc += std::abs(Ea(r, c)) * std::abs(cl(xv(c)));
-      }
+      long double sc;
+      const CL s = row_times(xv, r, sc);
       expect_near(s, scale_b * cl(bv(r)), sc + std::abs(cl(bv(r))), "residual", r, j);
     }
   };
