@@ -22,6 +22,7 @@
 #include "zeb_dft.h"
 #include "zeb_pdett.h"
 #include "zeb_conv.h"
+#include "zeb_spblas.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

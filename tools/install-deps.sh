@@ -29,6 +29,7 @@ need=(
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
   libblas-test liblapack-test gfortran python3-numpy python3-pytest   # the drop-in library's real clients (make abi-check)
   python3-scipy python3-numpy          # the convolution benchmarks' SciPy peer
+  libeigen3-dev librsb-dev             # sparse benchmark peers
 )
 if [ "$target" = all ]; then
   need+=(

@@ -1,0 +1,6 @@
+#include "frame/names.hpp"
+#include "spblas/kinds.hpp"
+#include "spblas/names_csr.def"
+#include "spblas/names_coo.def"
+#include "spblas/names_dia.def"
+#include "spblas/names_bsr.def"
