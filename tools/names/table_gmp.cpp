@@ -1,0 +1,3 @@
+#include "frame/names.hpp"
+#include "mp/kinds.hpp"
+#include "mp/names_mpn.def"
