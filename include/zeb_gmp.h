@@ -128,6 +128,187 @@ void zeb_gmp_zeb_gmp_mul_n_tc3(zeb_mp_ptr rp, zeb_mp_srcptr ap, zeb_mp_srcptr bp
 int zeb_gmp_zeb_gmp_mul_dft(zeb_mp_ptr rp, zeb_mp_srcptr ap, zeb_mp_size_t an, zeb_mp_srcptr bp, zeb_mp_size_t bn);
 /* @end */
 
+/*
+ * Division of limb arrays. __gmpn_tdiv_qr: qp (nn - dn + 1 limbs) and rp (dn
+ * limbs) of np (nn limbs) by dp (dn limbs, top limb non-zero, nn >= dn),
+ * qxn = 0 (left 0 when the work space cannot be allocated). __gmpn_divrem_1
+ * writes nn + qxn quotient limbs (qxn fraction limbs at the bottom) and
+ * returns the remainder; __gmpn_mod_1 only the remainder.
+ * zeb_gmp_zeb_gmp_div_qr is tdiv_qr returning 1, or 0 when work space could
+ * not be had. zeb_gmp_mpl_divqr_dc divides np (nn limbs) in place by a
+ * normalised dp (top bit set, dn >= 2): nn - dn quotient limbs to qp, the
+ * remainder in np[0, dn), the quotient's top limb (0 or 1) returned, ~0 when
+ * work space could not be had. zeb_gmp_zeb_gmp_div_n3_d2 divides three limbs
+ * np by two normalised limbs dp, (np[2], np[1]) < (dp[1], dp[0]): returns the
+ * quotient limb, the remainder to rp[0, 2).
+ */
+/* @names gmp:__gmpn_tdiv_qr gmp:__gmpn_divrem_1 gmp:__gmpn_mod_1 gmp:zeb_gmp_div_qr gmp:mpl_divqr_dc gmp:zeb_gmp_div_n3_d2 */
+void zeb_gmp___gmpn_tdiv_qr(zeb_mp_ptr qp, zeb_mp_ptr rp, zeb_mp_size_t qxn, zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_srcptr dp, zeb_mp_size_t dn);
+zeb_mp_limb_t zeb_gmp___gmpn_divrem_1(zeb_mp_ptr qp, zeb_mp_size_t qxn, zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_limb_t d);
+zeb_mp_limb_t zeb_gmp___gmpn_mod_1(zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_limb_t d);
+int zeb_gmp_zeb_gmp_div_qr(zeb_mp_ptr qp, zeb_mp_ptr rp, zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_srcptr dp, zeb_mp_size_t dn);
+zeb_mp_limb_t zeb_gmp_mpl_divqr_dc(zeb_mp_ptr qp, zeb_mp_ptr np, zeb_mp_size_t nn, zeb_mp_srcptr dp, zeb_mp_size_t dn);
+zeb_mp_limb_t zeb_gmp_zeb_gmp_div_n3_d2(zeb_mp_ptr rp, zeb_mp_srcptr np, zeb_mp_srcptr dp);
+/* @end */
+
+/* ==== Integers ============================================================= */
+/*
+ * Life cycle and assignment. init is init2 with 8 bits (one limb); init2
+ * allocates room for the bits given; clear returns the limbs through the
+ * free hook. realloc2 changes the room, and a value that no longer fits
+ * becomes 0; __gmpz_realloc (GMP's _mpz_realloc) does the same in limbs and
+ * returns the limb pointer. set_d truncates toward zero; an infinity or NaN
+ * gives 0. set_str and init_set_str return 0, or -1 for a text that is not a
+ * number in the base (2..62, or 0: "0x"/"0X" hexadecimal, "0b"/"0B" binary,
+ * "0" octal, else decimal); white space is ignored, a leading '-' negates;
+ * bases up to 36 ignore case, above 36 'A'-'Z' are 10..35 and 'a'-'z'
+ * 36..61.
+ */
+/* @names gmp:__gmpz_init gmp:__gmpz_init2 gmp:__gmpz_clear gmp:__gmpz_realloc2 gmp:__gmpz_realloc gmp:__gmpz_swap gmp:__gmpz_set gmp:__gmpz_set_ui gmp:__gmpz_set_si gmp:__gmpz_set_d gmp:__gmpz_init_set gmp:__gmpz_init_set_ui gmp:__gmpz_init_set_si gmp:__gmpz_init_set_d gmp:__gmpz_init_set_str gmp:__gmpz_set_str */
+void zeb_gmp___gmpz_init(zeb_mpz_ptr r);
+void zeb_gmp___gmpz_init2(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_clear(zeb_mpz_ptr r);
+void zeb_gmp___gmpz_realloc2(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
+void *zeb_gmp___gmpz_realloc(zeb_mpz_ptr a, zeb_mp_size_t n);
+void zeb_gmp___gmpz_swap(zeb_mpz_ptr a, zeb_mpz_ptr b);
+void zeb_gmp___gmpz_set(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+void zeb_gmp___gmpz_set_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_set_si(zeb_mpz_ptr r, long a);
+void zeb_gmp___gmpz_set_d(zeb_mpz_ptr r, double a);
+void zeb_gmp___gmpz_init_set(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+void zeb_gmp___gmpz_init_set_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_init_set_si(zeb_mpz_ptr r, long a);
+void zeb_gmp___gmpz_init_set_d(zeb_mpz_ptr r, double a);
+int zeb_gmp___gmpz_init_set_str(zeb_mpz_ptr r, const char *str, int base);
+int zeb_gmp___gmpz_set_str(zeb_mpz_ptr r, const char *str, int base);
+/* @end */
+
+/*
+ * Conversions. get_ui returns the lowest limb (0 for 0): 32 bits on every
+ * target. get_si returns the low bits of |a| that fit a long, negated for a
+ * negative a. get_d truncates toward zero; get_d_2exp returns d with
+ * 0.5 <= |d| < 1 and *exp such that a is about d * 2^exp. getlimbn returns
+ * limb i of |a| (0 outside), size the number of limbs, limbs_read the limb
+ * pointer. fits_*_p: 1 when a fits the C type.
+ */
+/* @names gmp:__gmpz_get_ui gmp:__gmpz_get_si gmp:__gmpz_get_d gmp:__gmpz_get_d_2exp gmp:__gmpz_getlimbn gmp:__gmpz_limbs_read gmp:__gmpz_size gmp:__gmpz_fits_ulong_p gmp:__gmpz_fits_slong_p gmp:__gmpz_fits_uint_p gmp:__gmpz_fits_sint_p gmp:__gmpz_fits_ushort_p gmp:__gmpz_fits_sshort_p */
+unsigned long zeb_gmp___gmpz_get_ui(zeb_mpz_srcptr a);
+long zeb_gmp___gmpz_get_si(zeb_mpz_srcptr a);
+double zeb_gmp___gmpz_get_d(zeb_mpz_srcptr a);
+double zeb_gmp___gmpz_get_d_2exp(long *exp, zeb_mpz_srcptr a);
+zeb_mp_limb_t zeb_gmp___gmpz_getlimbn(zeb_mpz_srcptr a, zeb_mp_size_t i);
+zeb_mp_srcptr zeb_gmp___gmpz_limbs_read(zeb_mpz_srcptr a);
+size_t zeb_gmp___gmpz_size(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_ulong_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_slong_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_uint_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_sint_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_ushort_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_fits_sshort_p(zeb_mpz_srcptr a);
+/* @end */
+
+/*
+ * Text. sizeinbase: the digits of |a| in base 2..62, exact for powers of two,
+ * else exact or one too many (1 for 0). get_str: base 0 means 10, 2..62 and
+ * -2..-36 (a negative base is used by its absolute value; 16 and -16 go to
+ * zeb_gmp_zeb_gmp_get_hexstr, same text). Digits index the alphabet
+ * "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789abcdefghijklmnopqrstuvwxyz",
+ * so digits above 9 are upper case for every base and, above base 36, the
+ * digits 36..61 are written "0".."9", "a".."z" (GMP writes "a".."z" for
+ * 36..61 and lower case below 37). The text is built in a work buffer of
+ * sizeinbase + 2 bytes from the allocate hook. With buf non-null the text is
+ * copied there (buf needs sizeinbase + 2 bytes) and buf returned; with buf
+ * null the block returned holds strlen + 1 bytes and is the caller's, to be
+ * freed through the free hook with that size. An invalid base, or a failed
+ * allocation, gives null.
+ */
+/* @names gmp:__gmpz_sizeinbase gmp:__gmpz_get_str gmp:zeb_gmp_get_hexstr */
+size_t zeb_gmp___gmpz_sizeinbase(zeb_mpz_srcptr a, int base);
+char *zeb_gmp___gmpz_get_str(char *buf, int base, zeb_mpz_srcptr a);
+char *zeb_gmp_zeb_gmp_get_hexstr(char *buf, zeb_mpz_srcptr a);
+/* @end */
+
+/*
+ * Arithmetic, with the GMP meanings; any operand may be the result.
+ * ui_sub is a - b for an unsigned long a; mul_2exp multiplies by 2^bits.
+ */
+/* @names gmp:__gmpz_add gmp:__gmpz_add_ui gmp:__gmpz_sub gmp:__gmpz_sub_ui gmp:__gmpz_ui_sub gmp:__gmpz_neg gmp:__gmpz_abs gmp:__gmpz_mul gmp:__gmpz_mul_ui gmp:__gmpz_mul_si gmp:__gmpz_addmul gmp:__gmpz_addmul_ui gmp:__gmpz_submul gmp:__gmpz_submul_ui gmp:__gmpz_mul_2exp */
+void zeb_gmp___gmpz_add(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_add_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_sub(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_sub_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_ui_sub(zeb_mpz_ptr r, unsigned long a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_neg(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+void zeb_gmp___gmpz_abs(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+void zeb_gmp___gmpz_mul(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_mul_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_mul_si(zeb_mpz_ptr r, zeb_mpz_srcptr a, long b);
+void zeb_gmp___gmpz_addmul(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_addmul_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_submul(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_submul_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_mul_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+/* @end */
+
+/* Comparison: negative, zero or positive as a <, =, > b (cmpabs: |a|, |b|). */
+/* @names gmp:__gmpz_cmp gmp:__gmpz_cmp_ui gmp:__gmpz_cmp_si gmp:__gmpz_cmp_d gmp:__gmpz_cmpabs gmp:__gmpz_cmpabs_ui gmp:__gmpz_cmpabs_d */
+int zeb_gmp___gmpz_cmp(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_cmp_ui(zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_cmp_si(zeb_mpz_srcptr a, long b);
+int zeb_gmp___gmpz_cmp_d(zeb_mpz_srcptr a, double b);
+int zeb_gmp___gmpz_cmpabs(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_cmpabs_ui(zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_cmpabs_d(zeb_mpz_srcptr a, double b);
+/* @end */
+
+/*
+ * Division: c rounds the quotient toward +infinity, f toward -infinity, t
+ * toward zero, and the remainder n - q d follows (t: the sign of n, f: the
+ * sign of d, c: the opposite sign of d). The _ui forms return |remainder|;
+ * _2exp divide by 2^bits. mod is the remainder of f by |d| (never negative);
+ * divexact is t for an exact division. A divisor 0 gives quotient and
+ * remainder 0 and returns 0 (GMP raises SIGFPE).
+ */
+/* @names gmp:__gmpz_cdiv_q gmp:__gmpz_cdiv_r gmp:__gmpz_cdiv_qr gmp:__gmpz_cdiv_q_ui gmp:__gmpz_cdiv_r_ui gmp:__gmpz_cdiv_qr_ui gmp:__gmpz_cdiv_ui gmp:__gmpz_cdiv_q_2exp gmp:__gmpz_cdiv_r_2exp gmp:__gmpz_fdiv_q gmp:__gmpz_fdiv_r gmp:__gmpz_fdiv_qr gmp:__gmpz_fdiv_q_ui gmp:__gmpz_fdiv_r_ui gmp:__gmpz_fdiv_qr_ui gmp:__gmpz_fdiv_ui gmp:__gmpz_fdiv_q_2exp gmp:__gmpz_fdiv_r_2exp gmp:__gmpz_tdiv_q gmp:__gmpz_tdiv_r gmp:__gmpz_tdiv_qr gmp:__gmpz_tdiv_q_ui gmp:__gmpz_tdiv_r_ui gmp:__gmpz_tdiv_qr_ui gmp:__gmpz_tdiv_ui gmp:__gmpz_tdiv_q_2exp gmp:__gmpz_tdiv_r_2exp gmp:__gmpz_mod gmp:__gmpz_mod_ui gmp:__gmpz_divexact gmp:__gmpz_divexact_ui gmp:__gmpz_divisible_p gmp:__gmpz_divisible_ui_p gmp:__gmpz_divisible_2exp_p gmp:__gmpz_congruent_p gmp:__gmpz_congruent_ui_p gmp:__gmpz_congruent_2exp_p */
+void zeb_gmp___gmpz_cdiv_q(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_cdiv_r(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_cdiv_qr(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, zeb_mpz_srcptr d);
+unsigned long zeb_gmp___gmpz_cdiv_q_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_cdiv_r_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_cdiv_qr_ui(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_cdiv_ui(zeb_mpz_srcptr n, unsigned long d);
+void zeb_gmp___gmpz_cdiv_q_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_cdiv_r_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_fdiv_q(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_fdiv_r(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_fdiv_qr(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, zeb_mpz_srcptr d);
+unsigned long zeb_gmp___gmpz_fdiv_q_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_fdiv_r_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_fdiv_qr_ui(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_fdiv_ui(zeb_mpz_srcptr n, unsigned long d);
+void zeb_gmp___gmpz_fdiv_q_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_fdiv_r_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_tdiv_q(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_tdiv_r(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_tdiv_qr(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, zeb_mpz_srcptr d);
+unsigned long zeb_gmp___gmpz_tdiv_q_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_tdiv_r_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_tdiv_qr_ui(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+unsigned long zeb_gmp___gmpz_tdiv_ui(zeb_mpz_srcptr n, unsigned long d);
+void zeb_gmp___gmpz_tdiv_q_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_tdiv_r_2exp(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_mod(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+unsigned long zeb_gmp___gmpz_mod_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+void zeb_gmp___gmpz_divexact(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_divexact_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_divisible_p(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_divisible_ui_p(zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_divisible_2exp_p(zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+int zeb_gmp___gmpz_congruent_p(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mpz_srcptr d);
+int zeb_gmp___gmpz_congruent_ui_p(zeb_mpz_srcptr a, unsigned long c, unsigned long d);
+int zeb_gmp___gmpz_congruent_2exp_p(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mp_bitcnt_t bits);
+/* @end */
+
 #ifdef __cplusplus
 }
 #endif

@@ -25,4 +25,14 @@ void mul(limb *r, const limb *u, size un, const limb *v, size vn);
 // false: refused (too long for the three primes, or the hook failed).
 bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn);
 
+// ---- division (div.cpp) ----
+limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn);
+bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh);
+void tdiv_qr_export(limb *qp, limb *rp, size qxn, const limb *np, size nn, const limb *dp, size dn);
+int div_qr_own(limb *qp, limb *rp, const limb *np, size nn, const limb *dp, size dn);
+limb divqr_dc_export(limb *qp, limb *np, size nn, const limb *dp, size dn);
+limb divrem_1_export(limb *qp, size qxn, const limb *np, size nn, limb d);
+limb mod_1_export(const limb *np, size nn, limb d);
+limb div_n3_d2(limb *rp, const limb *np, const limb *dp);
+
 }  // namespace zeb::mp

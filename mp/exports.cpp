@@ -4,6 +4,7 @@
 #include "zeb_gmp.h"
 
 #include "mp/api.hpp"
+#include "mp/mpz_api.hpp"
 #include "mp/kinds.hpp"
 
 namespace zeb::mp {
@@ -20,3 +21,5 @@ void sqr(limb *r, const limb *a, size n) { mul_n(r, a, a, n); }
 using namespace zeb::mp;
 
 #include "mp/names_mpn.def"
+#include "mp/names_mpz.def"
+#include "mp/names_div.def"

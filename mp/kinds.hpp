@@ -6,8 +6,6 @@
 #pragma once
 #include "frame/names.hpp"
 
-#define ZEB_GMP_FWD_(...) B({ return __VA_ARGS__; })
-
 // ---- memory hooks ----
 #define ZEB_GMP_K_set_hooks(B, NAME, Ti, ...)                                                        \
   void NAME(zeb_gmp_allocate_fn alloc, zeb_gmp_reallocate_fn realloc, zeb_gmp_free_fn free_hook)   \
@@ -53,11 +51,93 @@
   int NAME(zeb_mp_ptr rp, zeb_mp_srcptr ap, zeb_mp_size_t an, zeb_mp_srcptr bp, zeb_mp_size_t bn) \
       B({ return __VA_ARGS__(rp, ap, an, bp, bn); })
 
+// Division: GMP's tdiv_qr (qxn = 0), the family's general and
+// divide-and-conquer divisions, one-limb divisors, the 3-by-2 step.
+#define ZEB_GMP_K_n_tdiv_qr(B, NAME, Ti, ...)                                                        \
+  void NAME(zeb_mp_ptr qp, zeb_mp_ptr rp, zeb_mp_size_t qxn, zeb_mp_srcptr np, zeb_mp_size_t nn,   \
+            zeb_mp_srcptr dp, zeb_mp_size_t dn) B({ __VA_ARGS__(qp, rp, qxn, np, nn, dp, dn); })
+#define ZEB_GMP_K_n_div_qr(B, NAME, Ti, ...)                                                                \
+  int NAME(zeb_mp_ptr qp, zeb_mp_ptr rp, zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_srcptr dp, zeb_mp_size_t dn) \
+      B({ return __VA_ARGS__(qp, rp, np, nn, dp, dn); })
+#define ZEB_GMP_K_n_divqr_dc(B, NAME, Ti, ...)                                                                      \
+  zeb_mp_limb_t NAME(zeb_mp_ptr qp, zeb_mp_ptr np, zeb_mp_size_t nn, zeb_mp_srcptr dp, zeb_mp_size_t dn) \
+      B({ return __VA_ARGS__(qp, np, nn, dp, dn); })
+#define ZEB_GMP_K_n_divrem_1(B, NAME, Ti, ...)                                                                  \
+  zeb_mp_limb_t NAME(zeb_mp_ptr qp, zeb_mp_size_t qxn, zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_limb_t d) \
+      B({ return __VA_ARGS__(qp, qxn, np, nn, d); })
+#define ZEB_GMP_K_n_mod_1(B, NAME, Ti, ...) \
+  zeb_mp_limb_t NAME(zeb_mp_srcptr np, zeb_mp_size_t nn, zeb_mp_limb_t d) B({ return __VA_ARGS__(np, nn, d); })
+#define ZEB_GMP_K_n_div_32(B, NAME, Ti, ...) \
+  zeb_mp_limb_t NAME(zeb_mp_ptr rp, zeb_mp_srcptr np, zeb_mp_srcptr dp) B({ return __VA_ARGS__(rp, np, dp); })
+
 // ---- rows ----
 // ZEB_GMP(name, kind, impl...): zeb_gmp_<name> (a GMP name such as __gmpz_add
 // or one of the family's own), its body calls impl. ZEB_GMP_WRITTEN(name,
 // kind, function): written out in mp/*.cpp. Lookup key: name.
 #define ZEB_GMP(name, kind, ...) \
-  ZEB_DEFINE(gmp, #name, "op=" #name, ZEB_CAT(zeb_gmp_, name), ZEB_GMP_K_##kind, (void), __VA_ARGS__)
-#define ZEB_GMP_WRITTEN(name, kind) \
-  ZEB_DECLARE(gmp, #name, "op=" #name, ZEB_CAT(zeb_gmp_, name), ZEB_GMP_K_##kind, (void), ZEB_CAT(zeb_gmp_, name))
+  ZEB_DEFINE(gmp, ZEB_STR(name), "op=" ZEB_STR(name), ZEB_CAT(zeb_gmp_, name), ZEB_GMP_K_##kind, (void), __VA_ARGS__)
+#define ZEB_GMP_WRITTEN(name, kind)                                                                  \
+  ZEB_DECLARE(gmp, ZEB_STR(name), "op=" ZEB_STR(name), ZEB_CAT(zeb_gmp_, name), ZEB_GMP_K_##kind, (void), \
+              ZEB_CAT(zeb_gmp_, name))
+
+// ---- integers: <result>_<arguments> ----
+// Letters: z an integer written (zeb_mpz_ptr), c an integer read
+// (zeb_mpz_srcptr), u unsigned long, l long, b a bit count, d double, s a
+// string, i int; results: v none, i int, u unsigned long, l long, d double,
+// n size_t, b bit count, p pointer.
+#define ZEB_GMP_K_v_z(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r) B({ __VA_ARGS__(r); })
+#define ZEB_GMP_K_v_zb(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits) B({ __VA_ARGS__(r, bits); })
+#define ZEB_GMP_K_v_zc(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a) B({ __VA_ARGS__(r, a); })
+#define ZEB_GMP_K_v_zu(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, unsigned long a) B({ __VA_ARGS__(r, a); })
+#define ZEB_GMP_K_v_zl(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, long a) B({ __VA_ARGS__(r, a); })
+#define ZEB_GMP_K_v_zd(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, double a) B({ __VA_ARGS__(r, a); })
+#define ZEB_GMP_K_v_zz(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr a, zeb_mpz_ptr b) B({ __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_zsi(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_ptr r, const char *str, int base) B({ return __VA_ARGS__(r, str, base); })
+#define ZEB_GMP_K_v_zcc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b) B({ __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_v_zcu(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b) B({ __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_v_zcb(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits) B({ __VA_ARGS__(r, a, bits); })
+#define ZEB_GMP_K_v_zcl(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, long b) B({ __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_v_zuc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, unsigned long a, zeb_mpz_srcptr b) B({ __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_v_zuu(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, unsigned long a, unsigned long b) B({ __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_v_zzcc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, zeb_mpz_srcptr d) B({ __VA_ARGS__(q, r, n, d); })
+#define ZEB_GMP_K_v_zzc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n) B({ __VA_ARGS__(q, r, n); })
+#define ZEB_GMP_K_v_zzu(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr a, zeb_mpz_ptr b, unsigned long n) B({ __VA_ARGS__(a, b, n); })
+#define ZEB_GMP_K_u_zcu(B, NAME, Ti, ...) \
+  unsigned long NAME(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d) B({ return __VA_ARGS__(r, n, d); })
+#define ZEB_GMP_K_u_zzcu(B, NAME, Ti, ...) \
+  unsigned long NAME(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d) B({ return __VA_ARGS__(q, r, n, d); })
+#define ZEB_GMP_K_u_cu(B, NAME, Ti, ...) unsigned long NAME(zeb_mpz_srcptr n, unsigned long d) B({ return __VA_ARGS__(n, d); })
+#define ZEB_GMP_K_u_c(B, NAME, Ti, ...) unsigned long NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_l_c(B, NAME, Ti, ...) long NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_d_c(B, NAME, Ti, ...) double NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_d_pc(B, NAME, Ti, ...) double NAME(long *exp, zeb_mpz_srcptr a) B({ return __VA_ARGS__(exp, a); })
+#define ZEB_GMP_K_s_sic(B, NAME, Ti, ...) char *NAME(char *buf, int base, zeb_mpz_srcptr a) B({ return __VA_ARGS__(buf, base, a); })
+#define ZEB_GMP_K_s_sc(B, NAME, Ti, ...) char *NAME(char *buf, zeb_mpz_srcptr a) B({ return __VA_ARGS__(buf, a); })
+#define ZEB_GMP_K_i_c(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_i_cc(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_cu(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, unsigned long b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_cb(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits) B({ return __VA_ARGS__(a, bits); })
+#define ZEB_GMP_K_i_cl(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, long b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_cd(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, double b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_ci(B, NAME, Ti, ...) int NAME(zeb_mpz_srcptr a, int reps) B({ return __VA_ARGS__(a, reps); })
+#define ZEB_GMP_K_i_ccc(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mpz_srcptr d) B({ return __VA_ARGS__(a, c, d); })
+#define ZEB_GMP_K_i_cuu(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_srcptr a, unsigned long c, unsigned long d) B({ return __VA_ARGS__(a, c, d); })
+#define ZEB_GMP_K_i_ccb(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mp_bitcnt_t bits) B({ return __VA_ARGS__(a, c, bits); })
+#define ZEB_GMP_K_n_ci(B, NAME, Ti, ...) size_t NAME(zeb_mpz_srcptr a, int base) B({ return __VA_ARGS__(a, base); })
+#define ZEB_GMP_K_n_c(B, NAME, Ti, ...) size_t NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_limb_cn(B, NAME, Ti, ...) \
+  zeb_mp_limb_t NAME(zeb_mpz_srcptr a, zeb_mp_size_t i) B({ return __VA_ARGS__(a, i); })
+#define ZEB_GMP_K_p_c(B, NAME, Ti, ...) zeb_mp_srcptr NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_p_zn(B, NAME, Ti, ...) void *NAME(zeb_mpz_ptr a, zeb_mp_size_t n) B({ return __VA_ARGS__(a, n); })

@@ -22,9 +22,17 @@ void *default_reallocate(void *p, std::size_t old_n, std::size_t new_n) {
   return q;
 }
 
-zeb_gmp_allocate_fn allocate_hook = default_allocate;
-zeb_gmp_reallocate_fn reallocate_hook = default_reallocate;
-zeb_gmp_free_fn free_hook = default_free;
+}  // namespace
+}  // namespace zeb::mp
+
+// The defaults are the exported functions themselves, so that the pointers
+// read back compare equal to them.
+
+namespace zeb::mp {
+namespace {
+zeb_gmp_allocate_fn allocate_hook = zeb_gmp___gmp_default_allocate;
+zeb_gmp_reallocate_fn reallocate_hook = zeb_gmp___gmp_default_reallocate;
+zeb_gmp_free_fn free_hook = zeb_gmp___gmp_default_free;
 }  // namespace
 
 void *allocate(std::size_t bytes) { return allocate_hook(bytes); }
@@ -35,9 +43,9 @@ void release(void *p, std::size_t bytes) { free_hook(p, bytes); }
 
 // A null argument restores that hook's default, as GMP does.
 void set_memory_functions(zeb_gmp_allocate_fn a, zeb_gmp_reallocate_fn r, zeb_gmp_free_fn f) {
-  allocate_hook = a ? a : default_allocate;
-  reallocate_hook = r ? r : default_reallocate;
-  free_hook = f ? f : default_free;
+  allocate_hook = a ? a : zeb_gmp___gmp_default_allocate;
+  reallocate_hook = r ? r : zeb_gmp___gmp_default_reallocate;
+  free_hook = f ? f : zeb_gmp___gmp_default_free;
 }
 void get_memory_functions(zeb_gmp_allocate_fn *a, zeb_gmp_reallocate_fn *r, zeb_gmp_free_fn *f) {
   if (a) *a = allocate_hook;

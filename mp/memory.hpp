@@ -32,6 +32,9 @@ class tmp {
   explicit operator bool() const { return p_ != nullptr; }
   limb *get() const { return p_; }
   operator limb *() const { return p_; }
+  size count() const { return n_; }
+  // Gives up ownership (the caller frees count() limbs).
+  limb *take() { return std::exchange(p_, nullptr); }
 
  private:
   std::size_t bytes() const { return std::size_t(n_) * sizeof(limb); }

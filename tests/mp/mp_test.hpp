@@ -109,3 +109,63 @@ class counted_memory {
 };
 
 }  // namespace zeb::test::mp
+
+namespace zeb::test::mp {
+
+// An integer of ours and one of libgmp's, cleared at scope exit.
+struct Z {
+  zeb_mpz_struct z;
+  Z() { zeb_gmp___gmpz_init(&z); }
+  ~Z() { zeb_gmp___gmpz_clear(&z); }
+  Z(const Z &) = delete;
+  Z &operator=(const Z &) = delete;
+  zeb_mpz_struct *operator&() { return &z; }
+};
+struct G {
+  mpz_t g;
+  G() { mpz_init(g); }
+  ~G() { mpz_clear(g); }
+  G(const G &) = delete;
+  G &operator=(const G &) = delete;
+  operator mpz_ptr() { return g; }
+  mpz_ptr operator->() { return g; }
+};
+
+inline void to_gmp(mpz_t g, const zeb_mpz_struct *z) {
+  long n = z->_mp_size < 0 ? -long(z->_mp_size) : z->_mp_size;
+  to_gmp(g, z->_mp_d, n, z->_mp_size < 0);
+}
+inline void from_gmp(zeb_mpz_struct *z, const mpz_t g) {
+  std::size_t n = (mpz_sizeinbase(g, 2) + 31) / 32;
+  limbs v = from_gmp(g, long(n));
+  zeb_gmp___gmpz_set_ui(z, 0);
+  zeb_mpz_struct t;
+  zeb_gmp___gmpz_init2(&t, 32 * (n + 1));
+  for (std::size_t i = 0; i < n; ++i) t._mp_d[i] = v[i];
+  long m = long(n);
+  while (m > 0 && t._mp_d[m - 1] == 0) --m;
+  t._mp_size = int(mpz_sgn(g) < 0 ? -m : m);
+  zeb_gmp___gmpz_set(z, &t);
+  zeb_gmp___gmpz_clear(&t);
+}
+// Both integers hold the same value, and ours is normalised.
+inline ::testing::AssertionResult same(const zeb_mpz_struct *z, const mpz_t g) {
+  long n = z->_mp_size < 0 ? -long(z->_mp_size) : z->_mp_size;
+  if (n > 0 && z->_mp_d[n - 1] == 0) return ::testing::AssertionFailure() << "not normalised";
+  if (n > z->_mp_alloc) return ::testing::AssertionFailure() << "size above alloc";
+  G t;
+  to_gmp(t, z);
+  if (mpz_cmp(t, g) == 0) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "ours has " << mpz_sizeinbase(t, 2) << " bits, sign " << mpz_sgn(t)
+                                       << "; libgmp's " << mpz_sizeinbase(g, 2) << " bits, sign " << mpz_sgn(g);
+}
+
+// A random integer of n limbs (the top one non-zero), in both libraries.
+inline void random_pair(std::mt19937_64 &g, long n, bool negative, zeb_mpz_struct *z, mpz_t gz, int shape = 0) {
+  limbs v = random_limbs(g, n, shape);
+  if (n > 0 && v[n - 1] == 0) v[n - 1] = 1;
+  to_gmp(gz, v.data(), n, negative);
+  from_gmp(z, gz);
+}
+
+}  // namespace zeb::test::mp

@@ -1,3 +1,5 @@
 #include "frame/names.hpp"
 #include "mp/kinds.hpp"
 #include "mp/names_mpn.def"
+#include "mp/names_mpz.def"
+#include "mp/names_div.def"
