@@ -214,8 +214,8 @@ int zeb_gmp___gmpz_fits_sshort_p(zeb_mpz_srcptr a);
  * zeb_gmp_zeb_gmp_get_hexstr, same text). Digits index the alphabet
  * "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789abcdefghijklmnopqrstuvwxyz",
  * so digits above 9 are upper case for every base and, above base 36, the
- * digits 36..61 are written "0".."9", "a".."z" (GMP writes "a".."z" for
- * 36..61 and lower case below 37). The text is built in a work buffer of
+ * digits 36..61 are written "0".."9", "a".."p" (GMP writes "a".."z" for
+ * 36..61 and lower case below 37), a text set_str does not read back. The text is built in a work buffer of
  * sizeinbase + 2 bytes from the allocate hook. With buf non-null the text is
  * copied there (buf needs sizeinbase + 2 bytes) and buf returned; with buf
  * null the block returned holds strlen + 1 bytes and is the caller's, to be

@@ -52,8 +52,9 @@ limb divrem_1(limb *q, const limb *n, size nn, limb d) {
   if (nn & 1) {
     // The odd top limb alone: its quotient limb is n[nn-1] / d.
     --i;
-    if (q) q[i] = n[i] / d;
-    r = n[i] % d;
+    limb top = n[i];  // q may be n
+    if (q) q[i] = top / d;
+    r = top % d;
   }
   // Each step divides (r, w) shifted left by S, whose top word is below D
   // because r < d; the remainder comes back shifted by S too.

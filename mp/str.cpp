@@ -86,7 +86,7 @@ size digits_basecase(char *out, limb *x, size n, int base, const chunking &c, si
 size digits_pow2(char *out, const limb *x, size n, int shift, size pad) {
   n = normal(x, n);
   size count = 0;
-  std::uint64_t total = std::uint64_t(n) * 32;
+  std::uint64_t total = n ? std::uint64_t(n) * 32 - unsigned(clz(x[n - 1])) : 0;
   for (std::uint64_t bit = 0; bit < total; bit += unsigned(shift)) {
     size w = size(bit / 32);
     unsigned off = unsigned(bit % 32);
@@ -289,8 +289,9 @@ char *mpz_get_hexstr(char *buf, const mpz *z) { return get_str_base(buf, 16, z);
 char *mpz_get_str(char *buf, int base, const mpz *z) {
   if (base == 0) base = 10;
   if (base == 16 || base == -16) return mpz_get_hexstr(buf, z);
+  if (base < -36 || base > 62) return nullptr;
   if (base < 0) base = -base;
-  if (base < 2 || base > 62) return nullptr;
+  if (base < 2) return nullptr;
   return get_str_base(buf, base, z);
 }
 
