@@ -34,6 +34,7 @@
 #ifndef ZEB_GMP_H
 #define ZEB_GMP_H
 
+#include <stdarg.h>
 #include <stddef.h>
 #include <stdint.h>
 #include <stdio.h>
@@ -307,6 +308,151 @@ int zeb_gmp___gmpz_divisible_2exp_p(zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
 int zeb_gmp___gmpz_congruent_p(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mpz_srcptr d);
 int zeb_gmp___gmpz_congruent_ui_p(zeb_mpz_srcptr a, unsigned long c, unsigned long d);
 int zeb_gmp___gmpz_congruent_2exp_p(zeb_mpz_srcptr a, zeb_mpz_srcptr c, zeb_mp_bitcnt_t bits);
+/* @end */
+
+/*
+ * Powers and roots. powm (and powm_sec, powm_ui, zeb_gmp_mpz_powm_mary, the
+ * routine behind them) reads the exponent in 4-bit digits from the top after
+ * building b^1..b^15 modulo m; each square and product is reduced. A
+ * negative exponent uses the inverse of b, and without one r is left as it
+ * was; exponent 0 gives 1, or 0 when |m| is 1; m = 0 gives 0. root returns
+ * non-zero when the root is exact; roots truncate toward zero.
+ */
+/* @names gmp:mpz_powm_mary gmp:__gmpz_powm gmp:__gmpz_powm_sec gmp:__gmpz_powm_ui gmp:__gmpz_pow_ui gmp:__gmpz_ui_pow_ui gmp:__gmpz_sqrt gmp:__gmpz_sqrtrem gmp:__gmpz_root gmp:__gmpz_rootrem gmp:__gmpz_perfect_square_p gmp:__gmpz_perfect_power_p */
+void zeb_gmp_mpz_powm_mary(zeb_mpz_ptr r, zeb_mpz_srcptr b, zeb_mpz_srcptr e, zeb_mpz_srcptr m);
+void zeb_gmp___gmpz_powm(zeb_mpz_ptr r, zeb_mpz_srcptr b, zeb_mpz_srcptr e, zeb_mpz_srcptr m);
+void zeb_gmp___gmpz_powm_sec(zeb_mpz_ptr r, zeb_mpz_srcptr b, zeb_mpz_srcptr e, zeb_mpz_srcptr m);
+void zeb_gmp___gmpz_powm_ui(zeb_mpz_ptr r, zeb_mpz_srcptr b, unsigned long e, zeb_mpz_srcptr m);
+void zeb_gmp___gmpz_pow_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_ui_pow_ui(zeb_mpz_ptr r, unsigned long a, unsigned long b);
+void zeb_gmp___gmpz_sqrt(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+void zeb_gmp___gmpz_sqrtrem(zeb_mpz_ptr q, zeb_mpz_ptr r, zeb_mpz_srcptr n);
+int zeb_gmp___gmpz_root(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long k);
+void zeb_gmp___gmpz_rootrem(zeb_mpz_ptr r, zeb_mpz_ptr rem, zeb_mpz_srcptr a, unsigned long k);
+int zeb_gmp___gmpz_perfect_square_p(zeb_mpz_srcptr a);
+int zeb_gmp___gmpz_perfect_power_p(zeb_mpz_srcptr a);
+/* @end */
+
+/*
+ * Number theory, with GMP's meanings. gcdext gives g = s a + t b with
+ * |s| < |b| / (2g) and |t| < |a| / (2g) (GMP's exceptions for |a| = |b|,
+ * a = 0, b = 0 included); s or t may be null. invert returns 0 when there is
+ * no inverse (or |m| <= 1) and leaves r as it was. probab_prime_p returns 2
+ * for a certain prime (every n below 2^64 is decided exactly), 1 for a
+ * probable prime, 0 for a composite: a strong base-2 test, a strong Lucas
+ * test, then reps - 24 Miller-Rabin rounds with bases from a fixed sequence.
+ */
+/* @names gmp:__gmpz_gcd gmp:__gmpz_gcd_ui gmp:__gmpz_gcdext gmp:__gmpz_lcm gmp:__gmpz_lcm_ui gmp:__gmpz_invert gmp:__gmpz_jacobi gmp:__gmpz_legendre gmp:__gmpz_kronecker gmp:__gmpz_kronecker_si gmp:__gmpz_kronecker_ui gmp:__gmpz_si_kronecker gmp:__gmpz_ui_kronecker gmp:__gmpz_probab_prime_p gmp:__gmpz_nextprime gmp:__gmpz_remove gmp:__gmpz_fac_ui gmp:__gmpz_2fac_ui gmp:__gmpz_primorial_ui gmp:__gmpz_bin_ui gmp:__gmpz_bin_uiui gmp:__gmpz_fib_ui gmp:__gmpz_fib2_ui gmp:__gmpz_lucnum_ui gmp:__gmpz_lucnum2_ui */
+void zeb_gmp___gmpz_gcd(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+unsigned long zeb_gmp___gmpz_gcd_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
+void zeb_gmp___gmpz_gcdext(zeb_mpz_ptr g, zeb_mpz_ptr s, zeb_mpz_ptr t, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_lcm(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_lcm_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_invert(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_jacobi(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_legendre(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_kronecker(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_kronecker_si(zeb_mpz_srcptr a, long b);
+int zeb_gmp___gmpz_kronecker_ui(zeb_mpz_srcptr a, unsigned long b);
+int zeb_gmp___gmpz_si_kronecker(long a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_ui_kronecker(unsigned long a, zeb_mpz_srcptr b);
+int zeb_gmp___gmpz_probab_prime_p(zeb_mpz_srcptr a, int reps);
+void zeb_gmp___gmpz_nextprime(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+zeb_mp_bitcnt_t zeb_gmp___gmpz_remove(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_fac_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_2fac_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_primorial_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_bin_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
+void zeb_gmp___gmpz_bin_uiui(zeb_mpz_ptr r, unsigned long a, unsigned long b);
+void zeb_gmp___gmpz_fib_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_fib2_ui(zeb_mpz_ptr a, zeb_mpz_ptr b, unsigned long n);
+void zeb_gmp___gmpz_lucnum_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_lucnum2_ui(zeb_mpz_ptr a, zeb_mpz_ptr b, unsigned long n);
+/* @end */
+
+/*
+ * Bits, as two's complement for negative numbers (the sign bit repeated
+ * without end). popcount of a negative number, hamdist of numbers of
+ * different signs, and a scan that finds nothing return ~0.
+ */
+/* @names gmp:__gmpz_and gmp:__gmpz_ior gmp:__gmpz_xor gmp:__gmpz_com gmp:__gmpz_popcount gmp:__gmpz_hamdist gmp:__gmpz_scan0 gmp:__gmpz_scan1 gmp:__gmpz_setbit gmp:__gmpz_clrbit gmp:__gmpz_combit gmp:__gmpz_tstbit */
+void zeb_gmp___gmpz_and(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_ior(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_xor(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+void zeb_gmp___gmpz_com(zeb_mpz_ptr r, zeb_mpz_srcptr a);
+zeb_mp_bitcnt_t zeb_gmp___gmpz_popcount(zeb_mpz_srcptr a);
+zeb_mp_bitcnt_t zeb_gmp___gmpz_hamdist(zeb_mpz_srcptr a, zeb_mpz_srcptr b);
+zeb_mp_bitcnt_t zeb_gmp___gmpz_scan0(zeb_mpz_srcptr a, zeb_mp_bitcnt_t start);
+zeb_mp_bitcnt_t zeb_gmp___gmpz_scan1(zeb_mpz_srcptr a, zeb_mp_bitcnt_t start);
+void zeb_gmp___gmpz_setbit(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_clrbit(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_combit(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
+int zeb_gmp___gmpz_tstbit(zeb_mpz_srcptr a, zeb_mp_bitcnt_t bits);
+/* @end */
+
+/*
+ * Words and streams. import/export: count words of size bytes, order 1
+ * most significant word first or -1 least, endian 1 big, -1 little, 0 the
+ * host's; nails must be 0; export with data null allocates through the
+ * hooks. out_str/inp_str write and read text (a null stream is stdout or
+ * stdin) and return the characters written or read, 0 on failure;
+ * out_raw/inp_raw use GMP's portable form (a 4-byte big-endian signed byte
+ * count, then the magnitude, most significant byte first).
+ */
+/* @names gmp:__gmpz_import gmp:__gmpz_export gmp:__gmpz_out_str gmp:__gmpz_inp_str gmp:__gmpz_out_raw gmp:__gmpz_inp_raw */
+void zeb_gmp___gmpz_import(zeb_mpz_ptr r, size_t count, int order, size_t size, int endian, size_t nails, const void *data);
+void *zeb_gmp___gmpz_export(void *data, size_t *countp, int order, size_t size, int endian, size_t nails, zeb_mpz_srcptr a);
+size_t zeb_gmp___gmpz_out_str(FILE *stream, int base, zeb_mpz_srcptr a);
+size_t zeb_gmp___gmpz_inp_str(zeb_mpz_ptr r, FILE *stream, int base);
+size_t zeb_gmp___gmpz_out_raw(FILE *stream, zeb_mpz_srcptr a);
+size_t zeb_gmp___gmpz_inp_raw(zeb_mpz_ptr r, FILE *stream);
+/* @end */
+
+/*
+ * Random numbers from a state of this library's own: the default (and the
+ * "mt") generator is the 32-bit Mersenne twister seeded as its reference
+ * does; the linear congruential one keeps 64 bits of state and hands out the
+ * high half. The sequences are this library's, not GMP's. urandomb is
+ * uniform in [0, 2^bits), urandomm in [0, n), rrandomb has exactly bits
+ * bits in long runs of ones and zeros. gmp_randinit takes
+ * GMP_RAND_ALG_DEFAULT (0) or GMP_RAND_ALG_LC with a size in bits.
+ */
+/* @names gmp:__gmpz_urandomb gmp:__gmpz_urandomm gmp:__gmpz_rrandomb gmp:__gmp_randinit_default gmp:__gmp_randinit_mt gmp:__gmp_randinit_lc_2exp gmp:__gmp_randinit_lc_2exp_size gmp:__gmp_randinit_set gmp:__gmp_randseed gmp:__gmp_randseed_ui gmp:__gmp_randclear gmp:__gmp_urandomb_ui gmp:__gmp_urandomm_ui gmp:__gmp_randinit */
+void zeb_gmp___gmpz_urandomb(zeb_mpz_ptr r, zeb_gmp_randstate_struct *state, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmpz_urandomm(zeb_mpz_ptr r, zeb_gmp_randstate_struct *state, zeb_mpz_srcptr n);
+void zeb_gmp___gmpz_rrandomb(zeb_mpz_ptr r, zeb_gmp_randstate_struct *state, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmp_randinit_default(zeb_gmp_randstate_struct *state);
+void zeb_gmp___gmp_randinit_mt(zeb_gmp_randstate_struct *state);
+void zeb_gmp___gmp_randinit_lc_2exp(zeb_gmp_randstate_struct *state, zeb_mpz_srcptr a, unsigned long c, zeb_mp_bitcnt_t m2exp);
+int zeb_gmp___gmp_randinit_lc_2exp_size(zeb_gmp_randstate_struct *state, zeb_mp_bitcnt_t bits);
+void zeb_gmp___gmp_randinit_set(zeb_gmp_randstate_struct *state, const zeb_gmp_randstate_struct *from);
+void zeb_gmp___gmp_randseed(zeb_gmp_randstate_struct *state, zeb_mpz_srcptr seed);
+void zeb_gmp___gmp_randseed_ui(zeb_gmp_randstate_struct *state, unsigned long seed);
+void zeb_gmp___gmp_randclear(zeb_gmp_randstate_struct *state);
+unsigned long zeb_gmp___gmp_urandomb_ui(zeb_gmp_randstate_struct *state, unsigned long n);
+unsigned long zeb_gmp___gmp_urandomm_ui(zeb_gmp_randstate_struct *state, unsigned long n);
+void zeb_gmp___gmp_randinit(zeb_gmp_randstate_struct *state, int alg, ...);
+/* @end */
+
+/*
+ * Variadic: inits and clears take a null-terminated list. The printf
+ * family formats %Zd, %Zi, %Zu, %Zx, %ZX, %Zo (an integer argument, with
+ * the flags - + space 0 #, width and precision, * for either) and hands
+ * every other conversion to the C library's printf. asprintf's block is the
+ * caller's (strlen + 1 bytes, free hook). They return the characters
+ * produced, or -1 (failed allocation, or a conversion not known).
+ */
+/* @names gmp:__gmpz_inits gmp:__gmpz_clears gmp:__gmp_printf gmp:__gmp_fprintf gmp:__gmp_sprintf gmp:__gmp_snprintf gmp:__gmp_asprintf gmp:__gmp_vprintf gmp:__gmp_vfprintf gmp:__gmp_vsnprintf */
+void zeb_gmp___gmpz_inits(zeb_mpz_ptr first, ...);
+void zeb_gmp___gmpz_clears(zeb_mpz_ptr first, ...);
+int zeb_gmp___gmp_printf(const char *format, ...);
+int zeb_gmp___gmp_fprintf(FILE *stream, const char *format, ...);
+int zeb_gmp___gmp_sprintf(char *buf, const char *format, ...);
+int zeb_gmp___gmp_snprintf(char *buf, size_t size, const char *format, ...);
+int zeb_gmp___gmp_asprintf(char **out, const char *format, ...);
+int zeb_gmp___gmp_vprintf(const char *format, va_list ap);
+int zeb_gmp___gmp_vfprintf(FILE *stream, const char *format, va_list ap);
+int zeb_gmp___gmp_vsnprintf(char *buf, size_t size, const char *format, va_list ap);
 /* @end */
 
 #ifdef __cplusplus

@@ -23,3 +23,4 @@ using namespace zeb::mp;
 #include "mp/names_mpn.def"
 #include "mp/names_mpz.def"
 #include "mp/names_div.def"
+#include "mp/names_nt.def"

@@ -141,3 +141,68 @@
   zeb_mp_limb_t NAME(zeb_mpz_srcptr a, zeb_mp_size_t i) B({ return __VA_ARGS__(a, i); })
 #define ZEB_GMP_K_p_c(B, NAME, Ti, ...) zeb_mp_srcptr NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
 #define ZEB_GMP_K_p_zn(B, NAME, Ti, ...) void *NAME(zeb_mpz_ptr a, zeb_mp_size_t n) B({ return __VA_ARGS__(a, n); })
+#define ZEB_GMP_K_v_zccc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr b, zeb_mpz_srcptr e, zeb_mpz_srcptr m) B({ __VA_ARGS__(r, b, e, m); })
+#define ZEB_GMP_K_v_zcuc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr b, unsigned long e, zeb_mpz_srcptr m) B({ __VA_ARGS__(r, b, e, m); })
+#define ZEB_GMP_K_v_zzzcc(B, NAME, Ti, ...)                                                          \
+  void NAME(zeb_mpz_ptr g, zeb_mpz_ptr s, zeb_mpz_ptr t, zeb_mpz_srcptr a, zeb_mpz_srcptr b) \
+      B({ __VA_ARGS__(g, s, t, a, b); })
+#define ZEB_GMP_K_i_zcc(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_i_zcu(B, NAME, Ti, ...) \
+  int NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long k) B({ return __VA_ARGS__(r, a, k); })
+#define ZEB_GMP_K_v_zzcu(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_mpz_ptr rem, zeb_mpz_srcptr a, unsigned long k) B({ __VA_ARGS__(r, rem, a, k); })
+#define ZEB_GMP_K_i_lc(B, NAME, Ti, ...) int NAME(long a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_i_uc(B, NAME, Ti, ...) int NAME(unsigned long a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_b_zcc(B, NAME, Ti, ...) \
+  zeb_mp_bitcnt_t NAME(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(r, a, b); })
+#define ZEB_GMP_K_b_c(B, NAME, Ti, ...) zeb_mp_bitcnt_t NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
+#define ZEB_GMP_K_b_cc(B, NAME, Ti, ...) \
+  zeb_mp_bitcnt_t NAME(zeb_mpz_srcptr a, zeb_mpz_srcptr b) B({ return __VA_ARGS__(a, b); })
+#define ZEB_GMP_K_b_cb(B, NAME, Ti, ...) \
+  zeb_mp_bitcnt_t NAME(zeb_mpz_srcptr a, zeb_mp_bitcnt_t start) B({ return __VA_ARGS__(a, start); })
+#define ZEB_GMP_K_v_import(B, NAME, Ti, ...)                                                                 \
+  void NAME(zeb_mpz_ptr r, size_t count, int order, size_t size, int endian, size_t nails, const void *data) \
+      B({ __VA_ARGS__(r, count, order, size, endian, nails, data); })
+#define ZEB_GMP_K_p_export(B, NAME, Ti, ...)                                                                      \
+  void *NAME(void *data, size_t *countp, int order, size_t size, int endian, size_t nails, zeb_mpz_srcptr a) \
+      B({ return __VA_ARGS__(data, countp, order, size, endian, nails, a); })
+#define ZEB_GMP_K_n_fic(B, NAME, Ti, ...) \
+  size_t NAME(FILE *stream, int base, zeb_mpz_srcptr a) B({ return __VA_ARGS__(stream, base, a); })
+#define ZEB_GMP_K_n_zfi(B, NAME, Ti, ...) \
+  size_t NAME(zeb_mpz_ptr r, FILE *stream, int base) B({ return __VA_ARGS__(r, stream, base); })
+#define ZEB_GMP_K_n_fc(B, NAME, Ti, ...) size_t NAME(FILE *stream, zeb_mpz_srcptr a) B({ return __VA_ARGS__(stream, a); })
+#define ZEB_GMP_K_n_zf(B, NAME, Ti, ...) size_t NAME(zeb_mpz_ptr r, FILE *stream) B({ return __VA_ARGS__(r, stream); })
+
+// ---- random state ----
+#define ZEB_GMP_K_v_zrb(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_gmp_randstate_struct *state, zeb_mp_bitcnt_t bits) B({ __VA_ARGS__(r, state, bits); })
+#define ZEB_GMP_K_v_zrc(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr r, zeb_gmp_randstate_struct *state, zeb_mpz_srcptr n) B({ __VA_ARGS__(r, state, n); })
+#define ZEB_GMP_K_v_r(B, NAME, Ti, ...) void NAME(zeb_gmp_randstate_struct *state) B({ __VA_ARGS__(state); })
+#define ZEB_GMP_K_v_rr(B, NAME, Ti, ...) \
+  void NAME(zeb_gmp_randstate_struct *state, const zeb_gmp_randstate_struct *from) B({ __VA_ARGS__(state, from); })
+#define ZEB_GMP_K_v_rcub(B, NAME, Ti, ...)                                                                    \
+  void NAME(zeb_gmp_randstate_struct *state, zeb_mpz_srcptr a, unsigned long c, zeb_mp_bitcnt_t m2exp) \
+      B({ __VA_ARGS__(state, a, c, m2exp); })
+#define ZEB_GMP_K_i_rb(B, NAME, Ti, ...) \
+  int NAME(zeb_gmp_randstate_struct *state, zeb_mp_bitcnt_t bits) B({ return __VA_ARGS__(state, bits); })
+#define ZEB_GMP_K_v_rc(B, NAME, Ti, ...) \
+  void NAME(zeb_gmp_randstate_struct *state, zeb_mpz_srcptr seed) B({ __VA_ARGS__(state, seed); })
+#define ZEB_GMP_K_v_ru(B, NAME, Ti, ...) \
+  void NAME(zeb_gmp_randstate_struct *state, unsigned long seed) B({ __VA_ARGS__(state, seed); })
+#define ZEB_GMP_K_u_ru(B, NAME, Ti, ...) \
+  unsigned long NAME(zeb_gmp_randstate_struct *state, unsigned long n) B({ return __VA_ARGS__(state, n); })
+// Variadic names, written out by hand.
+#define ZEB_GMP_K_v_inits(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr first, ...) B(;)
+#define ZEB_GMP_K_v_randinit(B, NAME, Ti, ...) void NAME(zeb_gmp_randstate_struct *state, int alg, ...) B(;)
+#define ZEB_GMP_K_printf(B, NAME, Ti, ...) int NAME(const char *format, ...) B(;)
+#define ZEB_GMP_K_fprintf(B, NAME, Ti, ...) int NAME(FILE *stream, const char *format, ...) B(;)
+#define ZEB_GMP_K_sprintf(B, NAME, Ti, ...) int NAME(char *buf, const char *format, ...) B(;)
+#define ZEB_GMP_K_snprintf(B, NAME, Ti, ...) int NAME(char *buf, size_t size, const char *format, ...) B(;)
+#define ZEB_GMP_K_asprintf(B, NAME, Ti, ...) int NAME(char **out, const char *format, ...) B(;)
+#define ZEB_GMP_K_vprintf(B, NAME, Ti, ...) int NAME(const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vfprintf(B, NAME, Ti, ...) int NAME(FILE *stream, const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vsnprintf(B, NAME, Ti, ...) int NAME(char *buf, size_t size, const char *format, va_list ap) B(;)

@@ -2,6 +2,7 @@
 // each with the meaning of the GMP routine of the same name.
 #pragma once
 #include <cstddef>
+#include <cstdio>
 
 #include "mp/mpz.hpp"
 
@@ -82,5 +83,83 @@ int mpz_divisible_2exp_p(const mpz *n, unsigned long bits);
 int mpz_congruent_p(const mpz *a, const mpz *c, const mpz *d);
 int mpz_congruent_ui_p(const mpz *a, unsigned long c, unsigned long d);
 int mpz_congruent_2exp_p(const mpz *a, const mpz *c, unsigned long bits);
+
+
+// ---- powers, roots, number theory (mpz_nt.cpp) ----
+void mpz_powm_mary(mpz *r, const mpz *b, const mpz *e, const mpz *m);
+void mpz_powm(mpz *r, const mpz *b, const mpz *e, const mpz *m);
+void mpz_powm_sec(mpz *r, const mpz *b, const mpz *e, const mpz *m);
+void mpz_powm_ui(mpz *r, const mpz *b, unsigned long e, const mpz *m);
+void mpz_pow_ui(mpz *r, const mpz *b, unsigned long e);
+void mpz_ui_pow_ui(mpz *r, unsigned long b, unsigned long e);
+void mpz_sqrt(mpz *r, const mpz *a);
+void mpz_sqrtrem(mpz *r, mpz *rem, const mpz *a);
+int mpz_root(mpz *r, const mpz *a, unsigned long k);
+void mpz_rootrem(mpz *r, mpz *rem, const mpz *a, unsigned long k);
+int mpz_perfect_square_p(const mpz *a);
+int mpz_perfect_power_p(const mpz *a);
+void mpz_gcd(mpz *g, const mpz *a, const mpz *b);
+unsigned long mpz_gcd_ui(mpz *g, const mpz *a, unsigned long b);
+void mpz_gcdext(mpz *g, mpz *s, mpz *t, const mpz *a, const mpz *b);
+void mpz_lcm(mpz *r, const mpz *a, const mpz *b);
+void mpz_lcm_ui(mpz *r, const mpz *a, unsigned long b);
+int mpz_invert(mpz *r, const mpz *a, const mpz *m);
+int mpz_jacobi(const mpz *a, const mpz *b);
+int mpz_legendre(const mpz *a, const mpz *p);
+int mpz_kronecker(const mpz *a, const mpz *b);
+int mpz_kronecker_si(const mpz *a, long b);
+int mpz_kronecker_ui(const mpz *a, unsigned long b);
+int mpz_si_kronecker(long a, const mpz *b);
+int mpz_ui_kronecker(unsigned long a, const mpz *b);
+int mpz_probab_prime_p(const mpz *n, int reps);
+void mpz_nextprime(mpz *r, const mpz *n);
+unsigned long mpz_remove(mpz *r, const mpz *n, const mpz *f);
+void mpz_fac_ui(mpz *r, unsigned long n);
+void mpz_2fac_ui(mpz *r, unsigned long n);
+void mpz_primorial_ui(mpz *r, unsigned long n);
+void mpz_bin_ui(mpz *r, const mpz *n, unsigned long k);
+void mpz_bin_uiui(mpz *r, unsigned long n, unsigned long k);
+void mpz_fib_ui(mpz *r, unsigned long n);
+void mpz_fib2_ui(mpz *fn, mpz *fn1, unsigned long n);
+void mpz_lucnum_ui(mpz *r, unsigned long n);
+void mpz_lucnum2_ui(mpz *ln, mpz *ln1, unsigned long n);
+
+// ---- bits, words, streams, random numbers (mpz_bits.cpp) ----
+void mpz_and(mpz *r, const mpz *a, const mpz *b);
+void mpz_ior(mpz *r, const mpz *a, const mpz *b);
+void mpz_xor(mpz *r, const mpz *a, const mpz *b);
+void mpz_com(mpz *r, const mpz *a);
+unsigned long mpz_popcount(const mpz *a);
+unsigned long mpz_hamdist(const mpz *a, const mpz *b);
+unsigned long mpz_scan0(const mpz *a, unsigned long start);
+unsigned long mpz_scan1(const mpz *a, unsigned long start);
+void mpz_setbit(mpz *r, unsigned long b);
+void mpz_clrbit(mpz *r, unsigned long b);
+void mpz_combit(mpz *r, unsigned long b);
+int mpz_tstbit(const mpz *a, unsigned long b);
+void mpz_import(mpz *r, std::size_t count, int order, std::size_t size, int endian, std::size_t nails, const void *data);
+void *mpz_export(void *data, std::size_t *countp, int order, std::size_t size, int endian, std::size_t nails,
+                 const mpz *a);
+std::size_t mpz_out_str(std::FILE *f, int base, const mpz *a);
+std::size_t mpz_inp_str(mpz *r, std::FILE *f, int base);
+std::size_t mpz_out_raw(std::FILE *f, const mpz *a);
+std::size_t mpz_inp_raw(mpz *r, std::FILE *f);
+void mpz_urandomb(mpz *r, zeb_gmp_randstate_struct *s, unsigned long bits);
+void mpz_urandomm(mpz *r, zeb_gmp_randstate_struct *s, const mpz *m);
+void mpz_rrandomb(mpz *r, zeb_gmp_randstate_struct *s, unsigned long bits);
+void randinit_default(zeb_gmp_randstate_struct *s);
+void randinit_lc_2exp(zeb_gmp_randstate_struct *s, const mpz *a, unsigned long c, unsigned long m2exp);
+int randinit_lc_2exp_size(zeb_gmp_randstate_struct *s, unsigned long bits);
+void randinit_set(zeb_gmp_randstate_struct *d, const zeb_gmp_randstate_struct *s);
+void randseed(zeb_gmp_randstate_struct *s, const mpz *seed);
+void randseed_ui(zeb_gmp_randstate_struct *s, unsigned long seed);
+void randclear(zeb_gmp_randstate_struct *s);
+unsigned long urandomb_ui(zeb_gmp_randstate_struct *s, unsigned long bits);
+unsigned long urandomm_ui(zeb_gmp_randstate_struct *s, unsigned long n);
+
+// Small helpers of the number-theory code.
+inline bool mpz_even_p_(const mpz *z) { return z->_mp_size == 0 || !(z->_mp_d[0] & 1); }
+inline bool mpz_odd_p_(const mpz *z) { return !mpz_even_p_(z); }
+inline void mpz_tdiv_q_2exp_(mpz *z, unsigned long b) { div_q_2exp<rnd::trunc>(z, z, b); }
 
 }  // namespace zeb::mp

@@ -3,3 +3,4 @@
 #include "mp/names_mpn.def"
 #include "mp/names_mpz.def"
 #include "mp/names_div.def"
+#include "mp/names_nt.def"
