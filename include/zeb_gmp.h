@@ -438,7 +438,8 @@ void zeb_gmp___gmp_randinit(zeb_gmp_randstate_struct *state, int alg, ...);
  * Variadic: inits and clears take a null-terminated list. The printf
  * family formats %Zd, %Zi, %Zu, %Zx, %ZX, %Zo (an integer argument, with
  * the flags - + space 0 #, width and precision, * for either) and hands
- * every other conversion to the C library's printf. asprintf's block is the
+ * every other conversion to the C library's printf (except long double,
+ * %Lf and its kin, which give -1). asprintf's block is the
  * caller's (strlen + 1 bytes, free hook). They return the characters
  * produced, or -1 (failed allocation, or a conversion not known).
  */

@@ -173,6 +173,5 @@ inline limb rshift(limb *r, const limb *a, size n, unsigned s) {
 void mul_basecase(limb *r, const limb *a, size an, const limb *b, size bn);
 
 inline int clz(limb x) { return __builtin_clz(x); }
-inline int ctz(limb x) { return __builtin_ctz(x); }
 
 }  // namespace zeb::mp

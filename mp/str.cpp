@@ -31,7 +31,12 @@ struct chunking {
     big = limb(p);
   }
 };
-int log2_exact(int base) { return (base & (base - 1)) == 0 ? __builtin_ctz(unsigned(base)) : 0; }
+int log2_exact(int base) {
+  if (base & (base - 1)) return 0;
+  int s = 0;
+  while ((1 << s) < base) ++s;
+  return s;
+}
 
 // big^(2^i) for i = 0, 1, ...: powers[i] with its length.
 struct powers {

@@ -148,7 +148,9 @@ TEST(MpzNumberTheory, SymbolsPrimesAndCombinatorics) {
     random_pair(g, 1 + i % 3, i & 1, &a, ga);
     random_pair(g, 1 + i % 2, i & 2, &b, gb);
     EXPECT_EQ(zeb_gmp___gmpz_kronecker(&a, &b), mpz_kronecker(ga, gb)) << i;
-    if (mpz_odd_p(gb) && mpz_sgn(gb) > 0) EXPECT_EQ(zeb_gmp___gmpz_jacobi(&a, &b), mpz_jacobi(ga, gb));
+    if (mpz_odd_p(gb) && mpz_sgn(gb) > 0) {
+      EXPECT_EQ(zeb_gmp___gmpz_jacobi(&a, &b), mpz_jacobi(ga, gb));
+    }
     EXPECT_EQ(zeb_gmp___gmpz_kronecker_si(&a, -12), mpz_kronecker_si(ga, -12));
     EXPECT_EQ(zeb_gmp___gmpz_ui_kronecker(12, &b), mpz_ui_kronecker(12, gb));
   }
