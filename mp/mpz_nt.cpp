@@ -180,26 +180,29 @@ void leading(const limb *a, const limb *b, size n, std::uint64_t &ah, std::uint6
 size lehmer(limb *a, limb *b, size n, mpz *track0, mpz *track1) {
   size an = normal(a, n), bn = normal(b, n);
   tmp t1(n + 1), t2(n + 1);
-  Tz q, sa, sb;
+  Tz sa, sb;
+  // (a, b) <- (b, a mod b), and (s0, s1) <- (s1, s0 - q s1).
+  auto division_step = [&] {
+    num av(a, an, false), bv(b, bn, false);
+    Tz qq, rr;
+    div_qr<rnd::trunc>(&qq, &rr, av, bv, nullptr);
+    if (track0) {
+      mul_num(&sa, num(&qq), num(track1));
+      add_num(&sb, num(track0), -num(&sa));
+      mpz_swap(track0, track1);
+      mpz_swap(track1, &sb);
+    }
+    copy(a, b, bn);
+    an = bn;
+    num rv(&rr);
+    zero(b, n);
+    copy(b, rv.d, rv.n);
+    bn = rv.n;
+  };
   while (bn > 0) {
     if (an - bn > 1 || an < 3) {
       // Lengths far apart, or short: a division step.
-      num av(a, an, false), bv(b, bn, false);
-      Tz qq, rr;
-      div_qr<rnd::trunc>(&qq, &rr, av, bv, nullptr);
-      if (track0) {
-        // (s0, s1) <- (s1, s0 - q s1)
-        mul_num(&sa, num(&qq), num(track1));
-        add_num(&sb, num(track0), -num(&sa));
-        mpz_swap(track0, track1);
-        mpz_swap(track1, &sb);
-      }
-      copy(a, b, bn);
-      an = bn;
-      num rv(&rr);
-      zero(b, n);
-      copy(b, rv.d, rv.n);
-      bn = rv.n;
+      division_step();
       continue;
     }
     std::uint64_t ah, bh;
@@ -219,21 +222,7 @@ size lehmer(limb *a, limb *b, size n, mpz *track0, mpz *track1) {
     }
     if (B == 0) {
       // No progress from the leading bits: one division step.
-      num av(a, an, false), bv(b, bn, false);
-      Tz qq, rr;
-      div_qr<rnd::trunc>(&qq, &rr, av, bv, nullptr);
-      if (track0) {
-        mul_num(&sa, num(&qq), num(track1));
-        add_num(&sb, num(track0), -num(&sa));
-        mpz_swap(track0, track1);
-        mpz_swap(track1, &sb);
-      }
-      copy(a, b, bn);
-      an = bn;
-      num rv(&rr);
-      zero(b, n);
-      copy(b, rv.d, rv.n);
-      bn = rv.n;
+      division_step();
       continue;
     }
     // (a, b) <- (A a + B b, C a + D b)

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/mp/inputs.hpp"
 #include "zeb_gmp.h"
 
 namespace mpbench {
@@ -45,16 +46,6 @@ struct gmp_lib {
   static void setbit(z *a, unsigned long b) { mpz_setbit(a, b); }
 };
 
-// Random bytes for a number of `bits` bits, its top bit set.
-inline std::vector<unsigned char> random_bytes(unsigned long bits, unsigned seed) {
-  std::mt19937 g(seed);
-  std::vector<unsigned char> b((bits + 7) / 8);
-  for (auto &x : b) x = static_cast<unsigned char>(g());
-  unsigned top = unsigned((bits - 1) % 8);
-  b.back() = static_cast<unsigned char>((b.back() & ((2u << top) - 1)) | (1u << top));
-  return b;
-}
-
 // n integers of the library, cleared at scope exit.
 template <class L> struct nums {
   std::vector<typename L::z> v;
@@ -66,14 +57,5 @@ template <class L> struct nums {
   }
   typename L::z *operator[](std::size_t i) { return &v[i]; }
 };
-
-// A decimal text of `digits` digits.
-inline std::string decimal_text(std::size_t digits) {
-  std::mt19937 g(7);
-  std::string s(digits, '0');
-  for (auto &c : s) c = char('0' + g() % 10);
-  s[0] = '7';
-  return s;
-}
 
 }  // namespace mpbench

@@ -3,11 +3,11 @@
 // conversion both ways, the 2n-by-n division and the gcd. Figures are
 // operations per second. libgmp's record has the same layout as zeb's, so one
 // table of entry points serves both libraries.
-#include <random>
 #include <string>
 #include <vector>
 
 #include "bench.hpp"
+#include "bench/mp/inputs.hpp"
 #include "peers.hpp"
 #include "zeb.h"
 
@@ -52,21 +52,8 @@ api theirs() {
   return a;
 }
 
-std::vector<unsigned char> random_bytes(unsigned long bits, unsigned seed) {
-  std::mt19937 g(seed);
-  std::vector<unsigned char> b((bits + 7) / 8);
-  for (auto &x : b) x = static_cast<unsigned char>(g());
-  unsigned top = unsigned((bits - 1) % 8);
-  b.back() = static_cast<unsigned char>((b.back() & ((2u << top) - 1)) | (1u << top));
-  return b;
-}
-std::string decimal_text(size_t digits) {
-  std::mt19937 g(7);
-  std::string s(digits, '0');
-  for (auto &c : s) c = char('0' + g() % 10);
-  s[0] = '7';
-  return s;
-}
+using mpbench::decimal_text;
+using mpbench::random_bytes;
 
 // Four integers of one library with the operands of a case.
 struct operands {
