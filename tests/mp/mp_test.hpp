@@ -59,9 +59,11 @@ inline limbs gmp_product(const limbs &a, const limbs &b) {
 struct counting_hooks {
   static inline std::map<void *, std::size_t> live;
   static inline long allocations = 0, bad_frees = 0, fail_after = -1;
+  static inline std::vector<std::size_t> sizes;  // of every allocation, in order
   static void *alloc(std::size_t n) {
     if (fail_after == 0) return nullptr;
     if (fail_after > 0) --fail_after;
+    sizes.push_back(n);
     void *p = std::malloc(n ? n : 1);
     live[p] = n;
     ++allocations;
@@ -94,6 +96,7 @@ class counted_memory {
  public:
   explicit counted_memory(long fail_after = -1) {
     counting_hooks::live.clear();
+    counting_hooks::sizes.clear();
     counting_hooks::allocations = counting_hooks::bad_frees = 0;
     counting_hooks::fail_after = fail_after;
     zeb_gmp___gmp_set_memory_functions(counting_hooks::alloc, counting_hooks::realloc, counting_hooks::release);

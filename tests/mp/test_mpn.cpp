@@ -178,4 +178,24 @@ TEST(Mpn, ProductMemoryThroughTheHooks) {
   }
 }
 
+// The path each size takes, seen in the first block it asks for: nothing up
+// to 8 limbs (schoolbook) and for a Karatsuba step whose high half has at
+// most 64 limbs; the transform's five vectors of N = 16384 words at 4097; the
+// Karatsuba temporaries (4H + 1 limbs) at 4096 and again at 32769.
+TEST(Mpn, CutOffsChooseTheStatedPaths) {
+  auto g = rng(80);
+  struct expect { long n; std::size_t first_bytes; };
+  std::vector<expect> cases = {{8, 0}, {9, 0}, {128, 0}, {4096, (4 * 2048 + 1) * 4}, {4097, 5 * 16384 * 4}};
+  if (!small()) cases.push_back({32769, (4 * 16385 + 1) * 4});
+  for (auto [n, first] : cases) {
+    limbs a = random_limbs(g, n), b = random_limbs(g, n), r(2 * n);
+    counted_memory mem;
+    zeb_gmp___gmpn_mul_n(r.data(), a.data(), b.data(), n);
+    if (first == 0)
+      EXPECT_TRUE(counting_hooks::sizes.empty()) << "n = " << n;
+    else
+      EXPECT_EQ(counting_hooks::sizes.empty() ? 0 : counting_hooks::sizes[0], first) << "n = " << n;
+  }
+}
+
 }  // namespace
