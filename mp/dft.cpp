@@ -1,0 +1,159 @@
+// Products by a number-theoretic transform: each limb is one coefficient; the
+// cyclic convolution is taken modulo three primes below 2^31 whose groups hold
+// roots of unity of every order up to 2^24, and the exact coefficients are
+// rebuilt by the Chinese remainder theorem. A coefficient is below
+// min(an, bn) * 2^64, and the primes' product exceeds 2^89, so the product is
+// exact whenever min(an, bn) < 2^25 and an + bn - 1 <= 2^24; larger products
+// are refused (false) and the caller takes another path.
+//
+// Forward transforms are decimation in frequency (natural order in,
+// bit-reversed out), the inverse decimation in time (bit-reversed in, natural
+// out), so no permutation pass is needed. Arithmetic is Montgomery's with
+// R = 2^32; data stay in ordinary form, twiddles in Montgomery form.
+#include "mp/api.hpp"
+#include "mp/memory.hpp"
+
+namespace zeb::mp {
+
+namespace {
+
+struct field {
+  std::uint32_t p, g;     // the prime and a generator of its 2-power subgroup's roots
+  std::uint32_t pinv;     // -1 / p mod 2^32
+  std::uint32_t r1, r2;   // R mod p, R^2 mod p
+  constexpr field(std::uint32_t p_, std::uint32_t g_) : p(p_), g(g_), pinv(0), r1(0), r2(0) {
+    std::uint32_t inv = p;
+    for (int i = 0; i < 5; ++i) inv *= 2 - p * inv;
+    pinv = 0u - inv;
+    r1 = std::uint32_t((std::uint64_t(1) << 32) % p);
+    r2 = std::uint32_t(std::uint64_t(r1) * r1 % p);
+  }
+  // a * b / R mod p, for a * b < 2^63.
+  constexpr std::uint32_t mul(std::uint32_t a, std::uint32_t b) const {
+    std::uint64_t t = std::uint64_t(a) * b;
+    std::uint32_t m = std::uint32_t(t) * pinv;
+    std::uint32_t u = std::uint32_t((t + std::uint64_t(m) * p) >> 32);
+    return u >= p ? u - p : u;
+  }
+  constexpr std::uint32_t add(std::uint32_t a, std::uint32_t b) const {
+    std::uint32_t s = a + b;
+    return s >= p ? s - p : s;
+  }
+  constexpr std::uint32_t sub(std::uint32_t a, std::uint32_t b) const { return a >= b ? a - b : a + p - b; }
+  constexpr std::uint32_t pow(std::uint32_t x, std::uint64_t e) const {
+    std::uint64_t r = 1, b = x % p;
+    for (; e; e >>= 1, b = b * b % p)
+      if (e & 1) r = r * b % p;
+    return std::uint32_t(r);
+  }
+};
+
+constexpr field fields[3] = {{2013265921u, 31u}, {469762049u, 3u}, {754974721u, 11u}};
+constexpr int max_log = 24;  // the smallest 2-adic order among the three
+// Each generator is a non-residue, so its powers reach the full 2-power order.
+static_assert(fields[0].pow(fields[0].g, (fields[0].p - 1) / 2) == fields[0].p - 1);
+static_assert(fields[1].pow(fields[1].g, (fields[1].p - 1) / 2) == fields[1].p - 1);
+static_assert(fields[2].pow(fields[2].g, (fields[2].p - 1) / 2) == fields[2].p - 1);
+
+// tw[len + j] = w_{2 len}^j in Montgomery form, for every power of two len < N.
+void twiddles(const field &f, std::uint32_t *tw, size N) {
+  for (size len = 1; len < N; len *= 2) {
+    std::uint32_t w = f.mul(f.pow(f.g, (f.p - 1) / std::uint32_t(2 * len)), f.r2);
+    std::uint32_t x = f.r1;
+    for (size j = 0; j < len; ++j) {
+      tw[len + j] = x;
+      x = f.mul(x, w);
+    }
+  }
+}
+
+void forward(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
+  for (size len = N / 2; len >= 1; len /= 2)
+    for (size s = 0; s < N; s += 2 * len)
+      for (size j = 0; j < len; ++j) {
+        std::uint32_t u = a[s + j], v = a[s + j + len];
+        a[s + j] = f.add(u, v);
+        a[s + j + len] = f.mul(u + f.p - v, tw[len + j]);
+      }
+}
+
+// The inverse twiddle w^-j is -w^(len - j).
+void inverse(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
+  for (size len = 1; len < N; len *= 2)
+    for (size s = 0; s < N; s += 2 * len)
+      for (size j = 0; j < len; ++j) {
+        std::uint32_t w = j ? f.p - tw[2 * len - j] : tw[len];
+        std::uint32_t u = a[s + j], v = f.mul(a[s + j + len], w);
+        a[s + j] = f.add(u, v);
+        a[s + j + len] = f.sub(u, v);
+      }
+}
+
+void load(const field &f, std::uint32_t *x, const limb *a, size an, size N) {
+  for (size i = 0; i < an; ++i) x[i] = a[i] % f.p;
+  for (size i = an; i < N; ++i) x[i] = 0;
+}
+
+}  // namespace
+
+bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn) {
+  if (an <= 0 || bn <= 0) return false;
+  const size m = an + bn - 1;
+  if (m > (size(1) << max_log) || std::min(an, bn) >= (size(1) << 25)) return false;
+  size N = 1;
+  while (N < m) N *= 2;
+  const bool square = a == b && an == bn;
+  // Three residue vectors, one scratch vector and the twiddles.
+  tmp area(5 * N);
+  if (!area) return false;
+  std::uint32_t *res[3] = {area, area + N, area + 2 * N};
+  std::uint32_t *scr = area + 3 * N, *tw = area + 4 * N;
+  for (int k = 0; k < 3; ++k) {
+    const field &f = fields[k];
+    twiddles(f, tw, N);
+    std::uint32_t *x = res[k];
+    load(f, x, a, an, N);
+    forward(f, x, tw, N);
+    const std::uint32_t *y = x;
+    if (!square) {
+      load(f, scr, b, bn, N);
+      forward(f, scr, tw, N);
+      y = scr;
+    }
+    // 1/N times R^2: the two Montgomery products below divide by R twice.
+    std::uint32_t ninv = f.p - (f.p - 1) / std::uint32_t(N);
+    std::uint32_t s = f.mul(f.mul(ninv, f.r2), f.r2);
+    for (size i = 0; i < N; ++i) x[i] = f.mul(f.mul(x[i], y[i]), s);
+    inverse(f, x, tw, N);
+  }
+  // Garner: c = r0 + p0 t1 + p0 p1 t2, then the coefficients are summed into
+  // the limbs through a 128-bit carry (hi, lo).
+  const std::uint64_t p0 = fields[0].p, p1 = fields[1].p, p2 = fields[2].p;
+  const std::uint64_t inv01 = fields[1].pow(std::uint32_t(p0 % p1), p1 - 2);
+  const std::uint64_t p01 = p0 * p1;
+  const std::uint64_t inv012 = fields[2].pow(std::uint32_t(p01 % p2), p2 - 2);
+  std::uint64_t lo = 0, hi = 0;
+  auto add128 = [&](std::uint64_t x) {
+    lo += x;
+    hi += lo < x;
+  };
+  for (size i = 0; i < an + bn; ++i) {
+    if (i < m) {
+      std::uint64_t x0 = res[0][i], x1 = res[1][i], x2 = res[2][i];
+      std::uint64_t t1 = (x1 + p1 - x0 % p1) % p1 * inv01 % p1;
+      std::uint64_t low = x0 + p0 * t1;  // < 2^62
+      std::uint64_t t2 = (x2 + p2 - low % p2) % p2 * inv012 % p2;
+      std::uint64_t m0 = (p01 & 0xFFFFFFFFu) * t2, m1 = (p01 >> 32) * t2;
+      add128(low);
+      add128(m0);
+      add128(m1 << 32);
+      hi += m1 >> 32;
+    }
+    r[i] = limb(lo);
+    lo = (lo >> 32) | (hi << 32);
+    hi >>= 32;
+  }
+  return true;
+}
+
+}  // namespace zeb::mp

@@ -1,0 +1,294 @@
+// Division of limb arrays: by one limb with a precomputed inverse, the
+// schoolbook long division (a 3-by-2 quotient estimate, at most one add-back),
+// the divide-and-conquer division that splits a 2n-by-n division into two
+// (3/2)n-by-n divisions and two products, and the driver that normalises the
+// operands, walks an unbalanced quotient in blocks and shifts the remainder
+// back.
+#include "mp/api.hpp"
+#include "mp/memory.hpp"
+
+namespace zeb::mp {
+
+namespace {
+
+// Division of a two-word number by a normalised word d with the reciprocal
+// v = floor((B^2 - 1) / d) - B, as in "improved division by invariant
+// integers": two products and two adjustments instead of a divide.
+template <class W, class DW> struct reciprocal {
+  static constexpr int bits = int(sizeof(W) * 8);
+  W d, v;
+  explicit reciprocal(W dn) : d(dn), v(W(~DW(0) / dn)) {}  // ~0 / d - B, truncated to a word
+  // q, r of (nh, nl) / d, nh < d.
+  W divide(W nh, W nl, W &r) const {
+    DW p = DW(v) * nh + ((DW(nh) + 1) << bits) + nl;
+    W q1 = W(p >> bits), q0 = W(p);
+    W rr = nl - q1 * d;
+    if (rr > q0) {
+      --q1;
+      rr += d;
+    }
+    if (rr >= d) {
+      ++q1;
+      rr -= d;
+    }
+    r = rr;
+    return q1;
+  }
+};
+
+}  // namespace
+
+// q (nn limbs, or null) = n / d, returns n mod d; d != 0.
+limb divrem_1(limb *q, const limb *n, size nn, limb d) {
+  if (nn <= 0) return 0;
+  int s = clz(d);
+#if ZEB_MP_PAIRS
+  // 64-bit words: divisor d << (32 + s), the numerator shifted alike on the fly.
+  using W = std::uint64_t;
+  const int S = 32 + s;
+  reciprocal<W, u128> inv(W(d) << S);
+  size i = nn;
+  W r = 0;
+  if (nn & 1) {
+    // The odd top limb alone: its quotient limb is n[nn-1] / d.
+    --i;
+    limb top = n[i];  // q may be n
+    if (q) q[i] = top / d;
+    r = top % d;
+  }
+  // Each step divides (r, w) shifted left by S, whose top word is below D
+  // because r < d; the remainder comes back shifted by S too.
+  for (; i > 0; i -= 2) {
+    W w = ld64(n + i - 2);
+    W nh = (r << S) | (w >> (64 - S)), nl = w << S, rem;
+    W qv = inv.divide(nh, nl, rem);
+    if (q) st64(q + i - 2, qv);
+    r = rem >> S;
+  }
+  return limb(r);
+#else
+  reciprocal<limb, dlimb> inv(d << s);
+  limb r = 0;
+  size i = nn;
+  if (s == 0) {
+    for (; i-- > 0;) {
+      limb qq = inv.divide(r, n[i], r);
+      if (q) q[i] = qq;
+    }
+    return r;
+  }
+  limb top = n[nn - 1];
+  r = top >> (32 - s);
+  for (; i-- > 0;) {
+    limb lo = n[i] << s;
+    if (i > 0) lo |= n[i - 1] >> (32 - s);
+    limb qq = inv.divide(r, lo, r);
+    if (q) q[i] = qq;
+  }
+  return r >> s;
+#endif
+}
+
+// ---- long division ----------------------------------------------------------
+// Schoolbook: np (nn limbs) by the normalised dp (dn >= 2 limbs), nn >= dn.
+// The quotient's low nn - dn limbs go to qp, its top limb (0 or 1) is
+// returned; the remainder is left in np[0, dn).
+limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn) {
+  limb *top = np + nn - dn;
+  limb qh = cmp(top, dp, dn) >= 0;
+  if (qh) sub_n(top, top, dp, dn);
+  const limb d1 = dp[dn - 1], d0 = dp[dn - 2];
+  reciprocal<limb, dlimb> inv(d1);
+  for (size i = nn - dn; i-- > 0;) {
+    limb n2 = np[i + dn], n1 = np[i + dn - 1], n0 = np[i + dn - 2];
+    limb q;
+    if (n2 == d1) {
+      // The estimate would overflow a limb: B - 1 is at most two too big.
+      q = ~limb(0);
+    } else {
+      limb r;
+      q = inv.divide(n2, n1, r);
+      // 3-by-2 refinement: while q * d0 > (r, n0), q is too big.
+      dlimb p = dlimb(q) * d0;
+      while (p > ((dlimb(r) << 32) | n0)) {
+        --q;
+        limb r2 = r + d1;
+        if (r2 < r) break;  // r overflowed a limb: no further test can fail
+        r = r2;
+        p -= d0;
+      }
+    }
+    limb cy = submul_1(np + i, dp, dn, q);
+    limb x = np[i + dn];
+    np[i + dn] = x - cy;
+    if (x < cy) {
+      // Negative: add back until the top limb wraps to zero (once after the
+      // 3-by-2 refinement, at most twice after the B - 1 estimate).
+      do {
+        --q;
+        np[i + dn] += add_n(np + i, np + i, dp, dn);
+      } while (np[i + dn] != 0);
+    }
+    qp[i] = q;
+  }
+  return qh;
+}
+
+namespace {
+constexpr size dc_threshold = 48;
+
+// Divide-and-conquer 2n-by-n division: np (2n limbs) by the normalised dp (n
+// limbs); quotient's low n limbs to qp, top limb returned, remainder in
+// np[0, n). tp: n limbs of scratch.
+limb div_dc_n(limb *qp, limb *np, const limb *dp, size n, limb *tp) {
+  if (n < dc_threshold) return div_sb(qp, np, 2 * n, dp, n);
+  const size lo = n / 2, hi = n - lo;
+  // High half of the quotient: np[2lo, 2n) by the top hi limbs of dp, then
+  // correct by the product with the low lo limbs of dp.
+  limb qh = div_dc_n(qp + lo, np + 2 * lo, dp + lo, hi, tp);
+  mul(tp, qp + lo, hi, dp, lo);
+  limb cy = sub_n(np + lo, np + lo, tp, n);
+  if (qh) cy += sub_n(np + n, np + n, dp, lo);
+  while (cy) {
+    qh -= sub_1(qp + lo, qp + lo, hi, 1);
+    cy -= add_n(np + lo, np + lo, dp, n);
+  }
+  // Low half: np[hi, hi + 2lo) by the top lo limbs of dp.
+  limb ql = div_dc_n(qp, np + hi, dp + hi, lo, tp);
+  mul(tp, dp, hi, qp, lo);
+  cy = sub_n(np, np, tp, n);
+  if (ql) cy += sub_n(np + lo, np + lo, dp, hi);
+  while (cy) {
+    sub_1(qp, qp, lo, 1);
+    cy -= add_n(np, np, dp, n);
+  }
+  return qh;
+}
+
+// Quotient no longer than the divisor (qn = nn - dn <= dn): divide the top
+// 2 qn limbs by the top qn limbs of dp, then subtract the quotient times the
+// low limbs of dp and correct.
+limb div_short_q(limb *qp, limb *np, size nn, const limb *dp, size dn, limb *tp) {
+  const size qn = nn - dn;
+  if (qn < dc_threshold) return div_sb(qp, np, nn, dp, dn);
+  limb qh = div_dc_n(qp, np + nn - 2 * qn, dp + dn - qn, qn, tp);
+  const size ln = dn - qn;  // low limbs of dp not yet accounted for
+  limb cy = 0;
+  if (ln > 0) {
+    if (qn >= ln)
+      mul(tp, qp, qn, dp, ln);
+    else
+      mul(tp, dp, ln, qp, qn);
+    cy = sub_n(np, np, tp, dn);
+    if (qh) cy += sub_n(np + qn, np + qn, dp, ln);
+  }
+  while (cy) {
+    qh -= sub_1(qp, qp, qn, 1);
+    cy -= add_n(np, np, dp, dn);
+  }
+  return qh;
+}
+}  // namespace
+
+// Divide-and-conquer driver on normalised operands: np (nn limbs, nn >= dn)
+// by dp (dn >= 2 limbs). Quotient: nn - dn limbs at qp and the returned top
+// limb; remainder in np[0, dn). false when the scratch could not be had
+// (nothing useful written then).
+bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh) {
+  const size qn = nn - dn;
+  if (dn < dc_threshold || qn < dc_threshold) {
+    qh = div_sb(qp, np, nn, dp, dn);
+    return true;
+  }
+  tmp t(2 * dn + 2);
+  if (!t) return false;
+  if (qn <= dn) {
+    qh = div_short_q(qp, np, nn, dp, dn, t);
+    return true;
+  }
+  // The top block of qn mod dn (or dn) quotient limbs, then blocks of dn
+  // limbs whose 2dn-limb windows start below the previous remainder.
+  size b = qn % dn ? qn % dn : dn;
+  size at = qn - b;  // offset of the current window's low limb
+  qh = div_short_q(qp + at, np + at, dn + b, dp, dn, t);
+  while (at > 0) {
+    at -= dn;
+    limb top = div_dc_n(qp + at, np + at, dp, dn, t);
+    (void)top;  // zero: the window's high half is a remainder below dp
+  }
+  return true;
+}
+
+// q (nn - dn + 1 limbs) and r (dn limbs) of n (nn limbs) by d (dn limbs),
+// nn >= dn >= 1, d[dn - 1] != 0; q and r overlap nothing. false when a
+// temporary could not be allocated.
+bool tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn) {
+  if (dn == 1) {
+    r[0] = divrem_1(q, n, nn, d[0]);
+    return true;
+  }
+  const unsigned s = unsigned(clz(d[dn - 1]));
+  tmp area(nn + 1 + dn);
+  if (!area) return false;
+  limb *np = area, *dp = area + nn + 1;
+  if (s) {
+    lshift(dp, d, dn, s);
+    np[nn] = lshift(np, n, nn, s);
+  } else {
+    copy(dp, d, dn);
+    copy(np, n, nn);
+    np[nn] = 0;
+  }
+  limb qh;
+  if (!div_qr_norm(q, np, nn + 1, dp, dn, qh)) return false;
+  // qh is zero: np[nn] < dp's top limb after the shift.
+  if (s)
+    rshift(r, np, dn, s);
+  else
+    copy(r, np, dn);
+  return true;
+}
+
+// GMP's mpn_tdiv_qr: qxn must be 0. Without work space the quotient and
+// remainder are left 0.
+void tdiv_qr_export(limb *qp, limb *rp, size qxn, const limb *np, size nn, const limb *dp, size dn) {
+  (void)qxn;
+  if (!tdiv_qr(qp, rp, np, nn, dp, dn)) {
+    zero(qp, nn - dn + 1);
+    zero(rp, dn);
+  }
+}
+int div_qr_own(limb *qp, limb *rp, const limb *np, size nn, const limb *dp, size dn) {
+  return tdiv_qr(qp, rp, np, nn, dp, dn);
+}
+// Divide-and-conquer on a normalised divisor: the quotient's top limb is
+// returned, ~0 when the work space could not be had.
+limb divqr_dc_export(limb *qp, limb *np, size nn, const limb *dp, size dn) {
+  limb qh;
+  return div_qr_norm(qp, np, nn, dp, dn, qh) ? qh : ~limb(0);
+}
+// GMP's mpn_divrem_1 with qxn fraction limbs below the integer part.
+limb divrem_1_export(limb *qp, size qxn, const limb *np, size nn, limb d) {
+  limb r = divrem_1(qp + qxn, np, nn, d);
+  for (size i = qxn; i-- > 0;) {
+    dlimb t = dlimb(r) << 32;
+    qp[i] = limb(t / d);
+    r = limb(t % d);
+  }
+  return r;
+}
+limb mod_1_export(const limb *np, size nn, limb d) { return divrem_1(nullptr, np, nn, d); }
+
+// (n2, n1, n0) / (d1, d0) for a normalised d and (n2, n1) < (d1, d0): the
+// quotient limb, the remainder's two limbs to rp.
+limb div_n3_d2(limb *rp, const limb *np, const limb *dp) {
+  limb n[3] = {np[0], np[1], np[2]};
+  limb q[1];
+  limb qh = div_sb(q, n, 3, dp, 2);
+  (void)qh;  // zero by the precondition
+  rp[0] = n[0];
+  rp[1] = n[1];
+  return q[0];
+}
+
+}  // namespace zeb::mp

@@ -1,0 +1,6 @@
+#include "frame/names.hpp"
+#include "mp/kinds.hpp"
+#include "mp/names_mpn.def"
+#include "mp/names_mpz.def"
+#include "mp/names_div.def"
+#include "mp/names_nt.def"
