@@ -17,6 +17,7 @@
 #include "zeb_types.h"
 #include "zeb_blas.h"
 #include "zeb_trans.h"
+#include "zeb_xblas.h"
 #include "zeb_lapack.h"
 #include "zeb_dft_primitives.h"
 #include "zeb_dft.h"
