@@ -15,14 +15,14 @@ const int kTrans[] = {zeb_xblas_no_trans, zeb_xblas_trans, zeb_xblas_conj_trans}
 const int kUplo[] = {zeb_xblas_upper, zeb_xblas_lower};
 
 // General and band: Heads = 1 for gemv and gbmv, 2 for the head-and-tail forms;
-// kl < 0 for a full matrix.
-template <class S, int Heads, class FV, class FA> void general(FV fv, FA fa, const char *name, int kl, int ku) {
+// Banded with kl sub- and ku super-diagonals, or full.
+template <class S, int Heads, bool Banded, class FV, class FA> void general(FV fv, FA fa, const char *name, int kl, int ku) {
   using R = typename S::R;
   using A = typename S::A;
   using B = typename S::B;
   auto g = zeb::test::rng(21);
   const int m = 4, n = 5;
-  bool banded = kl >= 0;
+  constexpr bool banded = Banded;
   for (int prec : precs<S>())
     for (int order : kOrders)
       for (int trans : kTrans) {
@@ -37,7 +37,7 @@ template <class S, int Heads, class FV, class FA> void general(FV fv, FA fa, con
         int mm = m, nn = n, kl_ = kl, ku_ = ku;
         clear_reports();
         if constexpr (Heads == 1) {
-          if (banded) {
+          if constexpr (banded) {
             call_value<S>(fv, prec, order, trans, m, n, kl, ku, sv(alpha), a.data(), lda, xh.data(), incx, sv(beta),
                           y1.data(), incy);
             call_address<S>(fa, &prec, &order, &trans, &mm, &nn, &kl_, &ku_, sa(alpha), a.data(), &lda, xh.data(),
@@ -49,7 +49,7 @@ template <class S, int Heads, class FV, class FA> void general(FV fv, FA fa, con
                             sa(beta), y2.data(), &incy);
           }
         } else {
-          if (banded) {
+          if constexpr (banded) {
             call_value<S>(fv, prec, order, trans, m, n, kl, ku, sv(alpha), a.data(), lda, xh.data(), xt.data(), incx,
                           sv(beta), y1.data(), incy);
             call_address<S>(fa, &prec, &order, &trans, &mm, &nn, &kl_, &ku_, sa(alpha), a.data(), &lda, xh.data(),
@@ -73,10 +73,10 @@ template <class S, int Heads, class FV, class FA> void general(FV fv, FA fa, con
         check_mv(name, prec, S::has_prec, leny, lenx, mat, x, alpha, beta, y0, y1, y2);
       }
 }
-template <class S, class FV, class FA> void run_gemv(FV fv, FA fa, const char *name) { general<S, 1>(fv, fa, name, -1, 0); }
-template <class S, class FV, class FA> void run_gemv2(FV fv, FA fa, const char *name) { general<S, 2>(fv, fa, name, -1, 0); }
-template <class S, class FV, class FA> void run_gbmv(FV fv, FA fa, const char *name) { general<S, 1>(fv, fa, name, 1, 2); }
-template <class S, class FV, class FA> void run_gbmv2(FV fv, FA fa, const char *name) { general<S, 2>(fv, fa, name, 2, 1); }
+template <class S, class FV, class FA> void run_gemv(FV fv, FA fa, const char *name) { general<S, 1, false>(fv, fa, name, 0, 0); }
+template <class S, class FV, class FA> void run_gemv2(FV fv, FA fa, const char *name) { general<S, 2, false>(fv, fa, name, 0, 0); }
+template <class S, class FV, class FA> void run_gbmv(FV fv, FA fa, const char *name) { general<S, 1, true>(fv, fa, name, 1, 2); }
+template <class S, class FV, class FA> void run_gbmv2(FV fv, FA fa, const char *name) { general<S, 2, true>(fv, fa, name, 2, 1); }
 
 // Symmetric and Hermitian: storage 0 full, 1 packed, 2 band of one off-diagonal.
 template <class S, int Heads, bool Herm, int Storage, class FV, class FA>

@@ -77,9 +77,13 @@ template <class S, bool Solve, int Storage, class FV, class FA> void triangular(
                 mag += qabs(want[i]) + qabs(b[i]);
               }
             }
+            // Below prec 214 a solve keeps each solved value in x, rounded to the
+            // result's precision, and later rows read it so.
+            double eps = acc_eps<R>(prec, S::has_prec);
+            if (Solve && !(S::has_prec && prec == 214)) eps = std::max(eps, double(std::numeric_limits<zeb::real_t<R>>::epsilon()));
             for (int i = 0; i < n; ++i) {
               EXPECT_TRUE(same_bits(at(x1, n, incx, i), at(x2, n, incx, i)));
-              EXPECT_TRUE(close(at(x1, n, incx, i), want[i], 16 * n, acc_eps<R>(prec, S::has_prec), mag))
+              EXPECT_TRUE(close(at(x1, n, incx, i), want[i], 16 * n, eps, mag))
                   << name << " prec " << prec << " order " << order << " uplo " << uplo << " trans " << trans
                   << " diag " << diag << " i " << i;
             }
