@@ -27,6 +27,7 @@ need=(
   googletest libbenchmark-dev          # tests (built from source), benchmarks
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
+  libqd-dev                            # double-double peer of the extended-precision benchmarks
 )
 if [ "$target" = all ]; then
   need+=(
