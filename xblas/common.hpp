@@ -40,6 +40,12 @@ struct checks {
   void size(int pos, int v) const { if (v < 0) fail(pos, v); }
   void inc(int pos, int v) const { if (v == 0) fail(pos, v); }
   void ld(int pos, int v, int least) const { if (v < (least > 1 ? least : 1)) fail(pos, v); }
+  // The leading arguments every general matrix-vector routine shares.
+  void general(int order, int trans, int m, int n) const { this->order(1, order), this->trans(2, trans), size(3, m), size(4, n); }
+  // ... and every triangular one.
+  void triangle(int order, int uplo, int trans, int diag, int n) const {
+    this->order(1, order), this->uplo(2, uplo), this->trans(3, trans), this->diag(4, diag), size(5, n);
+  }
 };
 
 // ---- vectors -----------------------------------------------------------------

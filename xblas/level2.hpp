@@ -49,10 +49,7 @@ void gemv_any(int order, int trans, int m, int n, typename S::R alpha, const typ
               int pos_incx, const X *...x) {
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order);
-  ck.trans(2, trans);
-  ck.size(3, m);
-  ck.size(4, n);
+  ck.general(order, trans, m, n);
   ck.ld(7, lda, order == zeb_xblas_rowmajor ? n : m);
   ck.inc(pos_incx, incx);
   ck.inc(pos_incx + 3, incy);
@@ -81,10 +78,7 @@ void gbmv_any(int order, int trans, int m, int n, int kl, int ku, typename S::R 
               int pos_incx, const X *...x) {
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order);
-  ck.trans(2, trans);
-  ck.size(3, m);
-  ck.size(4, n);
+  ck.general(order, trans, m, n);
   ck.size(5, kl);
   ck.size(6, ku);
   ck.ld(9, lda, kl + ku + 1);

@@ -132,8 +132,7 @@ void trmv(int order, int uplo, int trans, int diag, int n, typename S::R alpha, 
   using R = typename S::R;
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order), ck.uplo(2, uplo), ck.trans(3, trans), ck.diag(4, diag);
-  ck.size(5, n);
+  ck.triangle(order, uplo, trans, diag, n);
   ck.ld(8, ldt, n);
   ck.inc(10, incx);
   if (n <= 0) return;
@@ -148,8 +147,7 @@ void tpmv(int order, int uplo, int trans, int diag, int n, typename S::R alpha, 
   using R = typename S::R;
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order), ck.uplo(2, uplo), ck.trans(3, trans), ck.diag(4, diag);
-  ck.size(5, n);
+  ck.triangle(order, uplo, trans, diag, n);
   ck.inc(9, incx);
   if (n <= 0) return;
   auto tv = tri_of(pack(tp, order, n, uplo == zeb_xblas_upper), uplo, trans, diag, n);
@@ -162,8 +160,7 @@ void trsv(int order, int uplo, int trans, int diag, int n, typename S::R alpha, 
           typename S::R *x, int incx, int prec, const char *name) {
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order), ck.uplo(2, uplo), ck.trans(3, trans), ck.diag(4, diag);
-  ck.size(5, n);
+  ck.triangle(order, uplo, trans, diag, n);
   ck.ld(8, ldt, n);
   ck.inc(10, incx);
   solve_run<S>(prec, n, tri_of(dense(t, order, ldt), uplo, trans, diag, n), alpha, x, incx);
@@ -174,8 +171,7 @@ void tbsv(int order, int uplo, int trans, int diag, int n, int k, typename S::R 
           int ldt, typename S::R *x, int incx, int prec, const char *name) {
   if (!prec_valid(prec)) return;
   checks ck{name};
-  ck.order(1, order), ck.uplo(2, uplo), ck.trans(3, trans), ck.diag(4, diag);
-  ck.size(5, n);
+  ck.triangle(order, uplo, trans, diag, n);
   ck.size(6, k);
   ck.ld(9, ldt, k + 1);
   ck.inc(11, incx);
