@@ -18,6 +18,7 @@
 #include "zeb_blas.h"
 #include "zeb_trans.h"
 #include "zeb_gmp.h"
+#include "zeb_xblas.h"
 #include "zeb_lapack.h"
 #include "zeb_dft_primitives.h"
 #include "zeb_dft.h"

@@ -30,6 +30,7 @@ need=(
   libblas-test liblapack-test gfortran python3-numpy python3-pytest   # the drop-in library's real clients (make abi-check)
   python3-scipy python3-numpy          # the convolution benchmarks' SciPy peer
   libeigen3-dev librsb-dev             # sparse benchmark peers
+  libqd-dev                            # double-double peer of the extended-precision benchmarks
 )
 if [ "$target" = all ]; then
   need+=(

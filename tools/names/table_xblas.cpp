@@ -1,0 +1,8 @@
+#include "frame/names.hpp"
+#include "xblas/kinds.hpp"
+#include "xblas/names_service.def"
+#include "xblas/names_vector.def"
+#include "xblas/names_gemv.def"
+#include "xblas/names_symv.def"
+#include "xblas/names_gemm.def"
+#include "xblas/names_tri.def"

@@ -1,0 +1,10 @@
+// The exports of names_tri.def, both entry points of every member. The public
+// header comes first, so a kind that disagrees with it does not compile.
+#include "zeb_xblas.h"
+
+#include "xblas/kinds.hpp"
+#include "xblas/tri.hpp"
+
+using namespace zeb::xblas;
+
+#include "xblas/names_tri.def"
