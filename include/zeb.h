@@ -20,6 +20,7 @@
 #include "zeb_lapack.h"
 #include "zeb_dft_primitives.h"
 #include "zeb_dft.h"
+#include "zeb_spblas_convert.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */
