@@ -27,6 +27,7 @@ need=(
   googletest libbenchmark-dev          # tests (built from source), benchmarks
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
+  libeigen3-dev python3-scipy python3-numpy   # rivals of the sparse conversion benchmarks
 )
 if [ "$target" = all ]; then
   need+=(

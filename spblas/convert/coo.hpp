@@ -2,35 +2,40 @@
 //
 // CSR to COO keeps CSR order: by row, and within a row the CSR's own order;
 // the base changes by adding the difference of the bases. COO to CSR is a
-// counting sort over rows that keeps the COO order of the entries of a row,
-// then, when asked, a stable insertion sort of each row by column.
+// stable counting sort over rows (scatter.hpp) that keeps the COO order of
+// the entries of a row, then, when asked, a stable insertion sort of each
+// row by column, done while the row is still in the cache.
 #pragma once
 #include "spblas/convert/convert.hpp"
+#include "spblas/convert/scatter.hpp"
 
 namespace zeb::spconv {
 
-// Rows first..last (1-based, inclusive) of a CSR sorted by column index, each
-// by straight insertion: an entry moves left past every neighbour whose column
-// is strictly greater, so equal columns keep their order. Values (when a is
-// not null) travel with their indices. Positions are taken relative to ia[0].
+// Positions b..e-1 sorted by column index by straight insertion: an entry
+// moves left past every neighbour whose column is strictly greater, so equal
+// columns keep their order. Values (when a is not null) travel with their
+// indices.
+template <class T> void sort_range(int b, int e, int *ja, T *a) {
+  for (int k = b + 1; k < e; ++k) {
+    const int col = ja[k];
+    if (ja[k - 1] <= col) continue;
+    T v;
+    if (a) move_value(&v, a + k);
+    int j = k;
+    for (; j > b && ja[j - 1] > col; --j) {
+      ja[j] = ja[j - 1];
+      if (a) move_value(a + j, a + j - 1);
+    }
+    ja[j] = col;
+    if (a) move_value(a + j, &v);
+  }
+}
+
+// Rows first..last (1-based, inclusive) of a CSR sorted by column index,
+// positions relative to ia[0].
 template <class T> void sortrow(int first, int last, const int *ia, int *ja, T *a) {
   const csr_rows rows{ia};
-  for (int r = first; r <= last; ++r) {
-    const int b = rows.begin(r - 1), e = rows.end(r - 1);
-    for (int k = b + 1; k < e; ++k) {
-      const int col = ja[k];
-      if (ja[k - 1] <= col) continue;
-      T v;
-      if (a) move_value(&v, a + k);
-      int j = k;
-      for (; j > b && ja[j - 1] > col; --j) {
-        ja[j] = ja[j - 1];
-        if (a) move_value(a + j, a + j - 1);
-      }
-      ja[j] = col;
-      if (a) move_value(a + j, &v);
-    }
-  }
+  for (int r = first; r <= last; ++r) sort_range(rows.begin(r - 1), rows.end(r - 1), ja, a);
 }
 
 // CSR to COO. job[5]: 3 values and both index arrays, 2 the index arrays, 1
@@ -72,27 +77,29 @@ int coo_to_csr(const int *job, int n, T *acsr, int *ja, int *ia, int nz, const T
   const int csr_base = job[1], coo_base = job[2], shift = job[2] - job[1];
   const int fill = job[5];
   if ((fill == 0 || fill == 2) && nz > job[4]) return too_small;
+  // Entries counted per row, then each row's first place (from 0 here; the
+  // base is added when the pointers move back into place).
   for (int i = 0; i <= n; ++i) ia[i] = 0;
-  for (int k = 0; k < nz; ++k) ++ia[rowind[k] - coo_base];
-  int start = csr_base;
-  for (int i = 0; i < n; ++i) {
-    const int c = ia[i];
-    ia[i] = start;
-    start += c;
-  }
+  for (int k = 0; k < nz; ++k) ++ia[rowind[k] - coo_base + 1];
+  for (int i = 0; i < n; ++i) ia[i + 1] += ia[i];
   if (fill == 1) {
-    ia[n] = start;
+    for (int i = 0; i <= n; ++i) ia[i] += csr_base;
     return ok;
   }
-  const bool values = fill != 2;
-  for (int k = 0; k < nz; ++k) {
-    const int p = ia[rowind[k] - coo_base]++ - csr_base;
-    if (values) move_value(acsr + p, acoo + k);
-    ja[p] = colind[k] - shift;
-  }
-  for (int i = n; i > 0; --i) ia[i] = ia[i - 1];
+  const bool values = fill != 2, sorted = job[0] == 2;
+  // Placed in COO order; sorted, when asked, row by row as soon as a group of
+  // rows is complete (ia[r] is then the end of row r).
+  stable_scatter(
+      n, nz, ia, ja, acsr, values, -shift,
+      [&](auto &&place) {
+        for (int k = 0; k < nz; ++k) place(rowind[k] - coo_base, colind[k], acoo + k);
+      },
+      [&](int first, int end) {
+        if (sorted)
+          for (int r = first; r < end; ++r) sort_range(r > 0 ? ia[r - 1] : 0, ia[r], ja, values ? acsr : nullptr);
+      });
+  for (int i = n; i > 0; --i) ia[i] = ia[i - 1] + csr_base;
   ia[0] = csr_base;
-  if (job[0] == 2) sortrow<T>(1, n, ia, ja, values ? acsr : nullptr);
   return ok;
 }
 

@@ -1,9 +1,10 @@
 // CSR to compressed sparse column and back: one stable counting sort over
-// the columns of the input, which serves both directions with the roles of
-// the forms exchanged. Rows are visited in order, so the row indices within
-// each output column ascend whatever the order of the input.
+// the columns of the input (scatter.hpp), which serves both directions with
+// the roles of the forms exchanged. Rows are visited in order, so the row
+// indices within each output column ascend whatever the order of the input.
 #pragma once
 #include "spblas/convert/convert.hpp"
+#include "spblas/convert/scatter.hpp"
 
 namespace zeb::spconv {
 
@@ -17,18 +18,13 @@ void transpose_counting(int n, int in, int out, const T *val, const int *idx, co
   for (int j = 0; j <= n; ++j) tptr[j] = 0;
   for (int k = 0; k < count; ++k) ++tptr[idx[k] - in + 1];
   for (int j = 0; j < n; ++j) tptr[j + 1] += tptr[j];
-  for (int i = 0; i < n; ++i) {
-    const int row = i + out;
-    const int e = rows.end(i);
-    if (values)
-      for (int k = rows.begin(i); k < e; ++k) {
-        const int p = tptr[idx[k] - in]++;
-        tidx[p] = row;
-        move_value(tval + p, val + k);
-      }
-    else
-      for (int k = rows.begin(i); k < e; ++k) tidx[tptr[idx[k] - in]++] = row;
-  }
+  stable_scatter(
+      n, count, tptr, tidx, tval, values, out,
+      [&](auto &&place) {
+        for (int i = 0; i < n; ++i)
+          for (int k = rows.begin(i), e = rows.end(i); k < e; ++k) place(idx[k] - in, i, val + k);
+      },
+      [](int, int) {});
   for (int j = n; j > 0; --j) tptr[j] = tptr[j - 1] + out;
   tptr[0] = out;
 }

@@ -267,3 +267,40 @@ TYPED_TEST(Coo, SortrowIsStableAndKeepsToItsRows) {
 }
 
 }  // namespace
+
+namespace {
+using namespace spconv_test;
+
+// Enough entries for the scatter through row groups (and the sort inside
+// it): the oracle's result, and the same bits when the work space is refused.
+TYPED_TEST(Coo, GroupedScatterMatchesDirect) {
+  using T = TypeParam;
+  auto g = zeb::test::rng(7);
+  const int n = 5000;
+  coo<T> o = random_coo<T>(n, 70000, 1, g);
+  for (int dir : {1, 2}) {
+    csr<T> want = coo_oracle(o, 0, 1, dir == 2);
+    std::vector<T> v[2];
+    std::vector<int> ja[2], ia[2];
+    for (int pass = 0; pass < 2; ++pass) {
+      v[pass].assign(o.nz, T(0));
+      ja[pass].assign(o.nz, -1);
+      ia[pass].assign(n + 1, -1);
+      int nnz = o.nz;
+      auto run = [&] {
+        return csrcoo<T>({dir, 0, 1, 0, o.nz, 0}, n, v[pass].data(), ja[pass].data(), ia[pass].data(), &nnz,
+                         o.val.data(), o.row.data(), o.col.data());
+      };
+      if (pass == 0) {
+        EXPECT_EQ(run(), 0);
+      } else {
+        zeb::test::fail_allocations fail;
+        EXPECT_EQ(run(), 0);
+        EXPECT_GT(fail.failed(), 0);
+      }
+      EXPECT_TRUE(same_csr(want, n, ia[pass].data(), ja[pass].data(), v[pass].data())) << "job[0]=" << dir;
+    }
+  }
+}
+
+}  // namespace

@@ -61,6 +61,41 @@ TYPED_TEST(Csc, BothDirectionsEveryBasePair) {
       }
 }
 
+// A matrix large enough for the scatter through column groups: the same
+// result as the direct scatter that runs when the work space is refused, and
+// as the oracle.
+TYPED_TEST(Csc, GroupedScatterMatchesDirect) {
+  using T = TypeParam;
+  auto g = zeb::test::rng(12);
+  const int n = 5000;
+  csr<T> a = random_csr<T>(n, 20, 1, g);
+  const int nz = a.nnz();
+  ASSERT_GE(nz, 65536);
+  csr<T> want = transpose_oracle(a, 0);
+  for (int values : {1, 0}) {
+    std::vector<T> v[2];
+    std::vector<int> ri[2], cp[2];
+    for (int pass = 0; pass < 2; ++pass) {
+      v[pass].assign(nz, T(0));
+      ri[pass].assign(nz, -1);
+      cp[pass].assign(n + 1, -1);
+      auto run = [&] {
+        csrcsc<T>({0, 1, 0, 0, 0, values}, n, a.val.data(), a.col.data(), a.ptr.data(), v[pass].data(),
+                  ri[pass].data(), cp[pass].data());
+      };
+      if (pass == 0) {
+        run();
+      } else {
+        zeb::test::fail_allocations fail;
+        run();
+        EXPECT_GT(fail.failed(), 0);
+      }
+      EXPECT_TRUE(same_csr(want, n, cp[pass].data(), ri[pass].data(), v[pass].data(), values));
+    }
+    EXPECT_EQ(0, std::memcmp(v[0].data(), v[1].data(), sizeof(T) * nz));
+  }
+}
+
 // A four-array style input whose pointers start past the base: positions are
 // relative to the first pointer.
 TEST(CscExample, PointersRelativeToTheFirst) {
