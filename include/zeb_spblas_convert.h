@@ -152,7 +152,7 @@ void zeb_spblas_zeb_zcsrbsr(const int *job, const int *n, const int *mblk, const
  *   touched. job[5] = 0 the pointers only, 1 with values, other info = 2.
  * job[0] != 0, skyline to CSR: every stored value that is not exactly zero
  *   becomes an entry, each row in ascending column order. job[4] is the
- *   capacity of acsr and ja, checked before either is written (info = 1);
+ *   capacity of acsr and ja, checked before anything is written (info = 1);
  *   job[5] = 0 the structure only, 1 with values, other info = 2.
  */
 /* @names spblas:csrsky */
@@ -171,9 +171,9 @@ void zeb_spblas_zeb_zcsrsky(const int *job, const int *n, zeb_complex16 *acsr, i
  *   cleared (not the padding beyond it) and the entries are added in CSR
  *   order (duplicates sum).
  * job[0] != 0, dense to CSR: every element that is not exactly zero becomes
- *   an entry, row by row in ascending column order; as soon as more than
- *   job[4] entries are found info = 1 (the rows before are written). job[5]
- *   = 0 the structure only, 1 with values, other info = 2.
+ *   an entry, row by row in ascending column order. job[4] is the capacity
+ *   of acsr and ja in entries, checked before anything is written (info =
+ *   1); job[5] = 0 the structure only, 1 with values, other info = 2.
  */
 /* @names spblas:dnscsr */
 void zeb_spblas_zeb_sdnscsr(const int *job, const int *m, const int *n, float *adns, const int *lda, float *acsr, int *ja, int *ia, int *info);

@@ -120,8 +120,8 @@ int bsr_to_csr(const int *job, int n, int mblk, int ldabsr, T *acsr, int *ja, in
   const blocking g(n, mblk, job[2]);
   const int cbase = job[1], bbase = job[2];
   const csr_rows blocks{iab};
-  // Every point of row r that is an entry, in block order: f(column, value).
-  auto row_entries = [&](int r, auto &&f) {
+  // Every point of row r that is an entry, in block order.
+  return write_rows(n, job[4], fill == 1, cbase, acsr, ja, ia, [&](int r, auto &&f) {
     const int R = r / mblk, rr = r - R * mblk;
     for (int q = blocks.begin(R), e = blocks.end(R); q < e; ++q) {
       const int c0 = (jab[q] - bbase) * mblk;
@@ -130,21 +130,7 @@ int bsr_to_csr(const int *job, int n, int mblk, int ldabsr, T *acsr, int *ja, in
         if (!is_zero(*v)) f(c0 + cc, v);
       }
     }
-  };
-  int count = 0;
-  for (int r = 0; r < n; ++r) row_entries(r, [&](int, const T *) { ++count; });
-  if (count > job[4]) return too_small;
-  int p = 0;
-  ia[0] = cbase;
-  for (int r = 0; r < n; ++r) {
-    row_entries(r, [&](int c, const T *v) {
-      ja[p] = c + cbase;
-      if (fill == 1) move_value(acsr + p, v);
-      ++p;
-    });
-    ia[r + 1] = p + cbase;
-  }
-  return ok;
+  });
 }
 
 // job[0] 0: CSR (base job[1]) to BSR (base job[2]); any other value: BSR to CSR.

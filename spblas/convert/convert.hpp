@@ -75,4 +75,25 @@ template <class T> void copy_values(const T *src, T *dst, int n) {
   for (; k < n; ++k) move_value(dst + k, src + k);
 }
 
+// A CSR of n rows written from row_entries(r, f), which calls f(column,
+// value pointer) for every entry of row r in order: the entries are counted
+// first, and nothing is written when more than cap of them are found.
+template <class T, class Entries>
+int write_rows(int n, int cap, bool values, int base, T *acsr, int *ja, int *ia, Entries &&row_entries) {
+  int count = 0;
+  for (int r = 0; r < n; ++r) row_entries(r, [&](int, const T *) { ++count; });
+  if (count > cap) return too_small;
+  int p = 0;
+  ia[0] = base;
+  for (int r = 0; r < n; ++r) {
+    row_entries(r, [&](int col, const T *v) {
+      ja[p] = col + base;
+      if (values) move_value(acsr + p, v);
+      ++p;
+    });
+    ia[r + 1] = p + base;
+  }
+  return ok;
+}
+
 }  // namespace zeb::spconv

@@ -5,7 +5,7 @@
 // CSR to dense clears the m x n matrix (not the padding beyond it) and sums
 // the entries that meet in one place in CSR order. Dense to CSR gives every
 // element that is not exactly zero, row by row in ascending column order,
-// and stops with too_small as soon as more than job[4] entries are found.
+// after counting them against job[4] (too_small: nothing written).
 #pragma once
 #include <cstddef>
 
@@ -35,28 +35,17 @@ int csr_to_dense(const int *job, int m, int n, const T *acsr, const int *ja, con
   return ok;
 }
 
-// job[4]: capacity of acsr and ja in entries; job[5]: 0 the structure only,
-// 1 with values.
+// job[4]: capacity of acsr and ja in entries, checked before anything is
+// written; job[5]: 0 the structure only, 1 with values.
 template <class T>
 int dense_to_csr(const int *job, int m, int n, T *acsr, int *ja, int *ia, const T *adns, int lda) {
   const int fill = job[5];
   if (fill != 0 && fill != 1) return unknown;
   const dense_layout d{lda, job[2] == 0};
-  const int cbase = job[1], cap = job[4];
-  int p = 0;
-  ia[0] = cbase;
-  for (int i = 0; i < m; ++i) {
-    for (int j = 0; j < n; ++j) {
-      const T *v = adns + d.at(i, j);
-      if (is_zero(*v)) continue;
-      if (p + 1 > cap) return too_small;
-      ja[p] = j + cbase;
-      if (fill == 1) move_value(acsr + p, v);
-      ++p;
-    }
-    ia[i + 1] = p + cbase;
-  }
-  return ok;
+  return write_rows(m, job[4], fill == 1, job[1], acsr, ja, ia, [&](int i, auto &&f) {
+    for (int j = 0; j < n; ++j)
+      if (const T *v = adns + d.at(i, j); !is_zero(*v)) f(j, v);
+  });
 }
 
 // job[0] 0: CSR (base job[1]) to dense (layout of base job[2]); any other

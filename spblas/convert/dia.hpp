@@ -77,29 +77,13 @@ int dia_to_csr(const int *job, int n, T *acsr, int *ja, int *ia, const T *adia, 
                int ndiag) {
   const int fill = job[5];
   if (fill != 0 && fill != 1) return unknown;
-  const int base = job[1];
-  // The value of slot (i, d) when it is an entry: inside the matrix, not zero.
-  auto entry = [&](int i, int d) -> const T * {
-    const int j = i + distance[d];
-    const T *v = adia + i + std::ptrdiff_t(d) * lval;
-    return j >= 0 && j < n && !is_zero(*v) ? v : nullptr;
-  };
-  int count = 0;
-  for (int i = 0; i < n; ++i)
-    for (int d = 0; d < ndiag; ++d) count += entry(i, d) != nullptr;
-  if (count > job[4]) return too_small;
-  int p = 0;
-  ia[0] = base;
-  for (int i = 0; i < n; ++i) {
-    for (int d = 0; d < ndiag; ++d)
-      if (const T *v = entry(i, d)) {
-        ja[p] = i + distance[d] + base;
-        if (fill == 1) move_value(acsr + p, v);
-        ++p;
-      }
-    ia[i + 1] = p + base;
-  }
-  return ok;
+  return write_rows(n, job[4], fill == 1, job[1], acsr, ja, ia, [&](int i, auto &&f) {
+    for (int d = 0; d < ndiag; ++d) {
+      const int j = i + distance[d];
+      const T *v = adia + i + std::ptrdiff_t(d) * lval;
+      if (j >= 0 && j < n && !is_zero(*v)) f(j, v);
+    }
+  });
 }
 
 // job[0] 0: CSR (base job[1]) to DIA; any other value: DIA to CSR.

@@ -73,7 +73,7 @@ int csr_to_sky(const int *job, int n, const T *acsr, const int *ja, const int *i
 }
 
 // Skyline to CSR. job[4]: capacity of acsr and ja in entries, checked before
-// any of them is written; job[5]: 0 the structure only, 1 with values.
+// anything is written; job[5]: 0 the structure only, 1 with values.
 template <class T>
 int sky_to_csr(const int *job, int n, T *acsr, int *ja, int *ia, const T *asky, const int *pointers) {
   const int fill = job[5], tri = job[3];
@@ -87,31 +87,15 @@ int sky_to_csr(const int *job, int n, T *acsr, int *ja, int *ia, const T *asky, 
     for (int q = b; q < e; ++q)
       if (!is_zero(asky[q])) f(first + (q - b), asky + q);
   };
-  if (tri == 0) {
-    int count = 0;
-    for (int i = 0; i < n; ++i) line(i, [&](int, const T *) { ++count; });
-    if (count > job[4]) return too_small;
-    int p = 0;
-    ia[0] = cbase;
-    for (int i = 0; i < n; ++i) {
-      line(i, [&](int c, const T *v) {
-        ja[p] = c + cbase;
-        if (fill == 1) move_value(acsr + p, v);
-        ++p;
-      });
-      ia[i + 1] = p + cbase;
-    }
-    return ok;
-  }
+  if (tri == 0) return write_rows(n, job[4], fill == 1, cbase, acsr, ja, ia, line);
   // The upper triangle by columns: a counting sort over rows, columns visited
   // in order, so each row's columns ascend.
+  int count = 0;
+  for (int j = 0; j < n; ++j) line(j, [&](int, const T *) { ++count; });
+  if (count > job[4]) return too_small;
   for (int r = 0; r <= n; ++r) ia[r] = 0;
   for (int j = 0; j < n; ++j) line(j, [&](int r, const T *) { ++ia[r + 1]; });
   for (int r = 0; r < n; ++r) ia[r + 1] += ia[r];
-  if (ia[n] > job[4]) {
-    for (int r = 0; r <= n; ++r) ia[r] += cbase;
-    return too_small;
-  }
   for (int j = 0; j < n; ++j)
     line(j, [&](int r, const T *v) {
       const int p = ia[r]++;

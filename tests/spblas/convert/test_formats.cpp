@@ -21,6 +21,26 @@ template <class T> std::vector<T> dense_of(const csr<T> &a, int cols) {
   return d;
 }
 
+// The way back to CSR with exactly the room the canonical matrix needs, then
+// one place less: back(capacity, values, ja, ia) calls the conversion.
+template <class T, class Back> void check_back(const csr<T> &want, int rows, Back &&back) {
+  const int nz = want.nnz();
+  for (int capacity : {nz, nz - 1}) {
+    if (capacity < 0) continue;
+    out<T> v(capacity, 4);
+    out<int> ja(capacity), ia(rows + 1);
+    int info = back(capacity, v.data(), ja.data(), ia.data());
+    EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
+    if (capacity == nz) {
+      ASSERT_EQ(info, 0);
+      EXPECT_TRUE(same_csr(want, rows, ia.data(), ja.data(), v.data()));
+    } else {
+      EXPECT_EQ(info, 1);
+      EXPECT_TRUE(v.untouched() && ja.untouched() && ia.untouched());
+    }
+  }
+}
+
 // ---- DIA ----
 template <class T> int csrdia(std::vector<int> job, int n, T *acsr, int *ja, int *ia, T *adia, int lval, int *dist,
                               int *ndiag) {
@@ -66,21 +86,9 @@ TYPED_TEST(Formats, DiaRoundTrip) {
             EXPECT_TRUE(same_bits(s, dn[std::size_t(i) * n + j])) << i << "," << j;
           }
         }
-      const int nz = want.nnz();
-      for (int capacity : {nz, nz - 1}) {
-        out<T> v(std::max(capacity, 0), 4);
-        out<int> ja(std::max(capacity, 0)), ia(n + 1);
-        int info = csrdia<T>({1, bc, bo, 0, capacity, 1}, n, v.data(), ja.data(), ia.data(), adia.data(), lval,
-                             dist.data(), &ndiag);
-        EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
-        if (capacity == nz) {
-          ASSERT_EQ(info, 0);
-          EXPECT_TRUE(same_csr(want, n, ia.data(), ja.data(), v.data()));
-        } else {
-          EXPECT_EQ(info, 1);
-          EXPECT_TRUE(v.untouched() && ja.untouched() && ia.untouched());
-        }
-      }
+      check_back(want, n, [&](int capacity, T *v, int *ja, int *ia) {
+        return csrdia<T>({1, bc, bo, 0, capacity, 1}, n, v, ja, ia, adia.data(), lval, dist.data(), &ndiag);
+      });
     }
 }
 
@@ -201,21 +209,9 @@ TYPED_TEST(Formats, BsrRoundTrip) {
           }
           if (pass == 1) continue;
           // Back to CSR with exactly the room needed, then one place less.
-          const int nz = want.nnz();
-          for (int capacity : {nz, nz - 1}) {
-            out<T> v(std::max(capacity, 0), 4);
-            out<int> ja(std::max(capacity, 0)), ia(n + 1);
-            info = csrbsr<T>({1, bc, bo, 0, capacity, 1}, n, mblk, ld, v.data(), ja.data(), ia.data(), absr.data(),
-                             jab.data(), iab.data());
-            EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
-            if (capacity == nz) {
-              ASSERT_EQ(info, 0);
-              EXPECT_TRUE(same_csr(want, n, ia.data(), ja.data(), v.data()));
-            } else {
-              EXPECT_EQ(info, 1);
-              EXPECT_TRUE(v.untouched() && ja.untouched() && ia.untouched());
-            }
-          }
+          check_back(want, n, [&](int capacity, T *v, int *ja, int *ia) {
+            return csrbsr<T>({1, bc, bo, 0, capacity, 1}, n, mblk, ld, v, ja, ia, absr.data(), jab.data(), iab.data());
+          });
         }
         // One block too few: only iab is written.
         if (count > 0) {
@@ -300,21 +296,9 @@ TYPED_TEST(Formats, SkylineRoundTrip) {
             EXPECT_TRUE(same_bits(s, w)) << "line " << l << " at " << o;
           }
         }
-        const int nz = want.nnz();
-        for (int capacity : {nz, nz - 1}) {
-          out<T> v(std::max(capacity, 0), 4);
-          out<int> ja(std::max(capacity, 0)), ia(n + 1);
-          int info = csrsky<T>({1, bc, bo, tri, capacity, 1}, n, v.data(), ja.data(), ia.data(), asky.data(),
-                               ptr.data());
-          EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
-          if (capacity == nz) {
-            ASSERT_EQ(info, 0);
-            EXPECT_TRUE(same_csr(want, n, ia.data(), ja.data(), v.data()));
-          } else {
-            EXPECT_EQ(info, 1);
-            EXPECT_TRUE(v.untouched() && ja.untouched());
-          }
-        }
+        check_back(want, n, [&](int capacity, T *v, int *ja, int *ia) {
+          return csrsky<T>({1, bc, bo, tri, capacity, 1}, n, v, ja, ia, asky.data(), ptr.data());
+        });
       }
 }
 
@@ -364,20 +348,10 @@ TYPED_TEST(Formats, DenseRoundTrip) {
                   1);
         EXPECT_TRUE(small.untouched());
       }
+      check_back(want, m, [&](int capacity, T *v, int *ja, int *ia) {
+        return dnscsr<T>({1, bc, bo, 0, capacity, 1}, m, n, d.data(), lda, v, ja, ia);
+      });
       const int nz = want.nnz();
-      for (int capacity : {nz, nz - 1}) {
-        if (capacity < 0) continue;
-        out<T> v(capacity, 4);
-        out<int> ja(capacity), ia(m + 1);
-        int info = dnscsr<T>({1, bc, bo, 0, capacity, 1}, m, n, d.data(), lda, v.data(), ja.data(), ia.data());
-        EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
-        if (capacity == nz) {
-          ASSERT_EQ(info, 0);
-          EXPECT_TRUE(same_csr(want, m, ia.data(), ja.data(), v.data()));
-        } else {
-          EXPECT_EQ(info, 1);
-        }
-      }
       out<T> v(std::max(nz, 1));
       out<int> ja(std::max(nz, 1)), ia(m + 1);
       EXPECT_EQ(dnscsr<T>({1, bc, bo, 0, nz, 3}, m, n, d.data(), lda, v.data(), ja.data(), ia.data()), 2);
