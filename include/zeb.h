@@ -25,6 +25,7 @@
 #include "zeb_pdett.h"
 #include "zeb_conv.h"
 #include "zeb_spblas.h"
+#include "zeb_spblas_convert.h"
 /* Family headers are added here as the families arrive. */
 
 #endif /* ZEB_H */

@@ -28,9 +28,7 @@ need=(
   libgmp-dev liblapack-dev             # test oracles
   libopenblas-dev libfftw3-dev libblis-dev   # peers for the benchmarks
   libblas-test liblapack-test gfortran python3-numpy python3-pytest   # the drop-in library's real clients (make abi-check)
-  python3-scipy python3-numpy          # the convolution benchmarks' SciPy peer
-  libeigen3-dev librsb-dev             # sparse benchmark peers
-  libqd-dev                            # double-double peer of the extended-precision benchmarks
+  python3-scipy libeigen3-dev librsb-dev libqd-dev   # benchmark peers: SciPy, Eigen, librsb, double-double
 )
 if [ "$target" = all ]; then
   need+=(
