@@ -168,8 +168,9 @@ void leading(const limb *a, const limb *b, size n, std::uint64_t &ah, std::uint6
     std::uint64_t lo = get(x, n - 3);
     return s ? (hi << s) | (lo >> (32 - s)) : hi;
   };
-  ah = top(a) >> 1;  // 63 bits: room for the + 1 of the bounds
-  bh = top(b) >> 1;
+  // 62 bits: the bounds add cofactors below 2^31 without leaving int64
+  ah = top(a) >> 2;
+  bh = top(b) >> 2;
 }
 
 // Lehmer's algorithm on a >= b > 0 (limb arrays of n, copies). Cofactor

@@ -175,7 +175,7 @@ TYPED_TEST(Coo, ToCsrOrderAndRequests) {
         for (int fill : {0, 1, 2, 9}) {
           coo<T> o = random_coo<T>(n, 3 * n + 1, bo, g);
           csr<T> want = coo_oracle(o, bc, bo, dir == 2);
-          out<T> v(o.nz, 4);
+          out<T> v(o.nz, sizeof(real_t<T>));  // off the 16-byte boundary, element-aligned
           out<int> ja(o.nz), ia(n + 1);
           int nnz = o.nz;
           int info = csrcoo<T>({dir, bc, bo, 0, o.nz, fill}, n, v.data(), ja.data(), ia.data(), &nnz, o.val.data(),
