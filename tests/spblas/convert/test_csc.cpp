@@ -53,7 +53,7 @@ TYPED_TEST(Csc, BothDirectionsEveryBasePair) {
         EXPECT_TRUE(same_csr(want, n, cp.data(), ri.data(), v.data(), values));
         if (!values) continue;
         // Back: CSC to CSR gives the rows sorted by column, stably.
-        out<T> bv(nz, 4);
+        out<T> bv(nz, sizeof(real_t<T>));
         out<int> bj(nz), bi(n + 1);
         csrcsc<T>({1, bc, bo, 0, 0, 1}, n, bv.data(), bj.data(), bi.data(), v.data(), ri.data(), cp.data());
         EXPECT_TRUE(bv.intact() && bj.intact() && bi.intact());

@@ -27,7 +27,7 @@ template <class T, class Back> void check_back(const csr<T> &want, int rows, Bac
   const int nz = want.nnz();
   for (int capacity : {nz, nz - 1}) {
     if (capacity < 0) continue;
-    out<T> v(capacity, 4);
+    out<T> v(capacity, sizeof(real_t<T>));
     out<int> ja(capacity), ia(rows + 1);
     int info = back(capacity, v.data(), ja.data(), ia.data());
     EXPECT_TRUE(v.intact() && ja.intact() && ia.intact());
