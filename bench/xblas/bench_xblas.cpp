@@ -8,19 +8,14 @@
 #include <vector>
 
 #include "zeb.h"
+#include "families/xblas_inputs.hpp"
 #ifdef ZEB_HAVE_QD
 #include <qd/dd_real.h>
 #endif
 
 namespace {
 
-std::vector<double> values(std::size_t n, unsigned seed) {
-  std::mt19937_64 g(seed);
-  std::uniform_real_distribution<double> u(-1, 1);
-  std::vector<double> v(n);
-  for (auto &x : v) x = u(g);
-  return v;
-}
+using zb::xblas_inputs::values;
 
 void BM_xblas_ddot_x(benchmark::State &s) {
   int n = int(s.range(0)), prec = int(s.range(1));

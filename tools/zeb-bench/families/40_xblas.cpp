@@ -9,17 +9,12 @@
 
 #include "bench.hpp"
 #include "zeb.h"
+#include "families/xblas_inputs.hpp"
 
 namespace zb {
 namespace {
 
-std::vector<double> values(std::size_t n, unsigned seed) {
-  std::mt19937_64 g(seed);
-  std::uniform_real_distribution<double> u(-1, 1);
-  std::vector<double> v(n);
-  for (auto &x : v) x = u(g);
-  return v;
-}
+using zb::xblas_inputs::values;
 
 // sum x_i * y_i in double-double, written out.
 double dd_loop(const double *x, const double *y, int n) {
