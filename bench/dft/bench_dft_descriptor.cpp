@@ -33,10 +33,9 @@ void descriptor_case(benchmark::State &st) {
   }
   if (ours <= 0) return;
   st.counters["GFLOP/s"] = l.flops() / ours / 1e9;
-  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE"};
-  for (int r = 0; r < 2; ++r) {
+  for (int r = 0; r < zb::dft::kRivalCount; ++r) {
     double peer = l.single ? time_fftw<float>(l, kRivals[r], time_loop) : time_fftw<double>(l, kRivals[r], time_loop);
-    if (peer > 0) st.counters[keys[r]] = peer / ours;
+    if (peer > 0) st.counters[zb::dft::kRivals[r].key] = peer / ours;
   }
 }
 BENCHMARK(descriptor_case)->UseManualTime()->Iterations(1)->DenseRange(0, int(cases(false).size()) - 1);

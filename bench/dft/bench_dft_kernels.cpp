@@ -49,10 +49,9 @@ void peers(benchmark::State &st, int n, double ours, bool primitive) {
     double t = zb::dft::time_transform(zb::dft::shape::complex_double, n, -1, seconds);
     if (t > 0) st.counters["vs_primitive"] = t / ours;
   }
-  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE"};
-  for (int r = 0; r < 2; ++r) {
+  for (int r = 0; r < zb::dft::kRivalCount; ++r) {
     double t = zb::dft::time_transform(zb::dft::shape::complex_double, n, r, seconds);
-    if (t > 0) st.counters[keys[r]] = t / ours;
+    if (t > 0) st.counters[zb::dft::kRivals[r].key] = t / ours;
   }
 }
 

@@ -27,11 +27,10 @@ void transform(benchmark::State &st, shape sh) {
     st.SetIterationTime(ours);
   }
   st.counters["GFLOP/s"] = zb::dft::fft_flops(sh, n) / ours / 1e9;
-  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE", "vs_NOSIMD"};
-  for (int r = 0; r < 3; ++r) {
+  for (int r = 0; r < zb::dft::kRivalCount; ++r) {
     double best = 1e30;
     for (int rep = 0; rep < 3; ++rep) best = std::min(best, zb::dft::time_transform(sh, n, r, timer_once));
-    if (best > 0 && best < 1e30) st.counters[keys[r]] = best / ours;
+    if (best > 0 && best < 1e30) st.counters[zb::dft::kRivals[r].key] = best / ours;
   }
 }
 

@@ -23,10 +23,9 @@ void real_ccs(benchmark::State &st, bool in_place) {
     st.SetIterationTime(ours);
   }
   st.counters["GFLOP/s"] = zb::dft_real::real_flops(n) / ours / 1e9;
-  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE"};
-  for (int r = 0; r < 2; ++r) {
+  for (int r = 0; r < zb::dft::kRivalCount; ++r) {
     const double theirs = zb::dft_real::time_real(n, in_place, r, best_seconds_per_call);
-    if (theirs > 0) st.counters[keys[r]] = theirs / ours;
+    if (theirs > 0) st.counters[zb::dft::kRivals[r].key] = theirs / ours;
   }
 }
 

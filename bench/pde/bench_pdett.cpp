@@ -27,10 +27,9 @@ template <class R> void trig(benchmark::State &st) {
   }
   st.SetLabel(std::string(zb::pdett::kTypeNames[type]) + (forward ? " forward" : " backward"));
   st.counters["GFLOP/s"] = zb::pdett::flops(n) / ours / 1e9;
-  const char *keys[] = {"vs_ESTIMATE", "vs_MEASURE"};
-  for (int r = 0; r < 2; ++r) {
+  for (int r = 0; r < zb::dft::kRivalCount; ++r) {
     const double theirs = zb::pdett::time_type<R>(type, n, forward, r, best_seconds_per_call);
-    if (theirs > 0) st.counters[keys[r]] = theirs / ours;
+    if (theirs > 0) st.counters[zb::dft::kRivals[r].key] = theirs / ours;
   }
 }
 

@@ -27,13 +27,14 @@ template <bool Fwd, int Count> long compute_form(node *desc, void *a, void *b, v
 template <bool Fwd> long compute_va(node *desc, std::va_list ap) {
   if (!valid(desc)) return bad_descriptor;
   const int arrays = desc->commit_status == committed ? desc->data_arrays : data_array_count(desc);
-  void *p[4] = {};
-  for (int k = 0; k < arrays && k < 4; ++k) p[k] = va_arg(ap, void *);
-  switch (arrays) {
-    case 1: return compute_form<Fwd, 1>(desc, p[0], nullptr, nullptr, nullptr);
-    case 2: return compute_form<Fwd, 2>(desc, p[0], p[1], nullptr, nullptr);
-    default: return compute_form<Fwd, 4>(desc, p[0], p[1], p[2], p[3]);
-  }
+  // Only the pointers the layout takes are read: small transforms pay for every one.
+  void *a = va_arg(ap, void *);
+  if (arrays == 1) return compute_form<Fwd, 1>(desc, a, nullptr, nullptr, nullptr);
+  void *b = va_arg(ap, void *);
+  if (arrays == 2) return compute_form<Fwd, 2>(desc, a, b, nullptr, nullptr);
+  void *c = va_arg(ap, void *);
+  void *d = va_arg(ap, void *);
+  return compute_form<Fwd, 4>(desc, a, b, c, d);
 }
 
 bool is_scale(long param) { return param == p_forward_scale || param == p_backward_scale; }

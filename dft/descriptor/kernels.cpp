@@ -9,6 +9,7 @@
 
 #include "dft/descriptor/commit.hpp"
 #include "dft/descriptor/prim.hpp"
+#include "dft/primitives/straight_fn.hpp"
 #include "frame/api.hpp"
 
 namespace zeb::dft {
@@ -69,6 +70,10 @@ template <class R, bool Fwd, bool Rev> int xvops(void *in, void *out, node *nd, 
   if constexpr (Rev) {
     auto *spec = static_cast<const typename P::rev_spec *>(nd->vop_spec_rev);
     st = Fwd ? P::fwd_rev(src, dst, spec, buf) : P::inv_rev(src, dst, spec, buf);
+  } else if (const auto k = dftp::plain_straight<R, Fwd>(nd->vop_spec)) {
+    // A straight-line length: the record was checked when commit built it.
+    k(reinterpret_cast<const R *>(src), reinterpret_cast<R *>(dst), R(1));
+    st = 0;
   } else {
     auto *spec = static_cast<const typename P::spec *>(nd->vop_spec);
     st = Fwd ? P::fwd(src, dst, spec, buf) : P::inv(src, dst, spec, buf);

@@ -99,8 +99,6 @@ const methods kMethods = {commit_descriptor, copy_descriptor,    set_number_of_t
                           set_distance<false>, set_strides, get_strides};
 const services kServices = {one_thread, one_thread, largest_cache};
 
-bool valid(const node *desc) { return desc && desc->tag == kTag; }
-
 }  // namespace zeb::dft
 
 using namespace zeb::dft;

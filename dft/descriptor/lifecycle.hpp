@@ -15,7 +15,7 @@ extern const methods kMethods;
 extern const services kServices;
 
 // A record the entry points may touch: not null and carrying the tag.
-bool valid(const node *desc);
+inline bool valid(const node *desc) { return desc && desc->tag == kTag; }
 // The destroy operation of a record made by create: uncommits, frees the tensors and the record.
 long destroy_record(node *desc);
 

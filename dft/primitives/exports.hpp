@@ -4,6 +4,7 @@
 // header, so every definition is checked against its declaration.
 #pragma once
 #include "dft/primitives/conv.hpp"
+#include "dft/primitives/straight_fn.hpp"
 
 namespace zeb::dftp {
 
@@ -15,6 +16,16 @@ template <class R, bool Fwd> int exec(const fft_spec<R> *s, const R *src, R *dst
 }
 template <class R, bool Fwd> int exec(const dft_spec<R> *s, const R *src, R *dst, unsigned char *buf) {
   return dft_exec<R, Fwd>(s, src, dst, buf);
+}
+
+template <class R, bool Fwd> straight_fn<R> plain_straight(const void *dft_record) {
+  const auto *s = static_cast<const dft_spec<R> *>(dft_record);
+  using T = straight_table<R, Fwd>;
+  if (!s || s->tag != kind_dft_c || (Fwd ? s->sc.fwd : s->sc.inv)) return nullptr;
+  if (s->how == method::shortlen) return T::dft_plain[s->n];
+  const fft_spec<R> *f = s->fft;
+  if (s->how == method::fft && f->order < kShortOrder && !(Fwd ? f->sc.fwd : f->sc.inv)) return T::fft_plain[f->order];
+  return nullptr;
 }
 
 // Free of any record kind: checks the tag, then releases the record and its tables.

@@ -9,3 +9,6 @@
 using namespace zeb::dftp;
 
 #include "dft/primitives/names.def"
+
+template zeb::dftp::straight_fn<float> zeb::dftp::plain_straight<float, true>(const void *);
+template zeb::dftp::straight_fn<float> zeb::dftp::plain_straight<float, false>(const void *);

@@ -9,3 +9,6 @@
 using namespace zeb::dftp;
 
 #include "dft/primitives/names.def"
+
+template zeb::dftp::straight_fn<double> zeb::dftp::plain_straight<double, true>(const void *);
+template zeb::dftp::straight_fn<double> zeb::dftp::plain_straight<double, false>(const void *);

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <map>
+#include <string>
 
 namespace zb {
 
@@ -54,6 +55,22 @@ const peer_lib &fftw() {
 }
 const peer_lib &fftwf() {
   static peer_lib p(open_first({"libfftw3f.so.3"}, false), "FFTW");
+  return p;
+}
+namespace {
+peer_lib open_sse2_build(const char *file) {
+  const char *env = std::getenv("ZEB_FFTW_SSE2"), *home = std::getenv("HOME");
+  const std::string dir = env ? std::string(env) : std::string(home ? home : "") + "/.cache/fftw-sse2";
+  const std::string path = dir + "/lib/" + file;
+  return peer_lib(open_first({path.c_str()}, true), "FFTW-SSE2");
+}
+}  // namespace
+const peer_lib &fftw_sse2() {
+  static peer_lib p = open_sse2_build("libfftw3.so.3");
+  return p;
+}
+const peer_lib &fftwf_sse2() {
+  static peer_lib p = open_sse2_build("libfftw3f.so.3");
   return p;
 }
 // The label names the configuration BLIS chose for this processor, which

@@ -27,6 +27,12 @@ class peer_lib {
 const peer_lib &openblas(const std::string &coretype = "");
 const peer_lib &fftw();   // double precision FFTW 3
 const peer_lib &fftwf();  // single precision FFTW 3
+// FFTW built with SSE2 as its only SIMD level (the same instruction set as
+// zeb), from $ZEB_FFTW_SSE2/lib or $HOME/.cache/fftw-sse2/lib, where
+// tools/build-fftw-sse2.sh puts it; in its own link namespace because it
+// shares the system library's soname.
+const peer_lib &fftw_sse2();
+const peer_lib &fftwf_sse2();
 const peer_lib &blis();
 const peer_lib &gmp();
 

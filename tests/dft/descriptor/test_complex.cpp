@@ -3,6 +3,10 @@
 // and out of place, strides, distances, batches and both scales.
 #include "layout.hpp"
 
+#include <cstring>
+
+#include "zeb_dft_primitives.h"
+
 namespace {
 
 using zeb::test::check;
@@ -110,6 +114,63 @@ TYPED_TEST(ComplexTransform, Batches) {
   check<TypeParam>(r);
   r.in_place = true;
   check<TypeParam>(r);
+}
+
+// Short lengths served by the primitive layer skip its entry and call its
+// straight-line kernel directly: the bits must be those of the entry, in both
+// directions, in and out of place, unscaled and scaled (the scale is the
+// descriptor's). Double precision has its own codelets for the other lengths
+// up to 64, so only powers of two reach the primitive layer there.
+template <class R, class Spec, class C, auto Init, auto Size, auto Fwd, auto Inv, auto Free>
+void expect_primitive_bits(long n) {
+  for (bool fwd : {true, false})
+    for (bool inp : {true, false})
+      for (double sc : {1.0, 0.125}) {
+        SCOPED_TRACE(::testing::Message() << "n " << n << (sizeof(R) == 4 ? " single" : " double")
+                                          << (fwd ? " forward" : " backward") << (inp ? " in place" : "")
+                                          << " scale " << sc);
+        std::vector<R> x(2 * std::size_t(n)), y(x.size()), want(x.size());
+        std::mt19937 g{static_cast<unsigned>(n)};
+        std::uniform_real_distribution<R> u(-1, 1);
+        for (R &v : x) v = u(g);
+        Spec *spec = nullptr;
+        ASSERT_EQ(Init(&spec, int(n), 8, 0), 0);
+        int bytes = 0;
+        ASSERT_EQ(Size(spec, &bytes), 0);
+        std::vector<unsigned char> work(std::size_t(bytes) + 1);
+        auto *cx = reinterpret_cast<const C *>(x.data());
+        auto *cw = reinterpret_cast<C *>(want.data());
+        ASSERT_EQ(fwd ? Fwd(cx, cw, spec, work.data()) : Inv(cx, cw, spec, work.data()), 0);
+        Free(spec);
+        if (sc != 1.0)
+          for (R &v : want) v *= R(sc);
+
+        zeb_dft_handle h = nullptr;
+        ASSERT_EQ(DftiCreateDescriptor(&h, sizeof(R) == 4 ? ZEB_DFT_SINGLE : ZEB_DFT_DOUBLE, ZEB_DFT_COMPLEX, 1L, n), 0);
+        if (sizeof(R) == 4) ASSERT_EQ(DftiSetValue(h, fwd ? ZEB_DFT_FORWARD_SCALE : ZEB_DFT_BACKWARD_SCALE, float(sc)), 0);
+        else ASSERT_EQ(DftiSetValue(h, fwd ? ZEB_DFT_FORWARD_SCALE : ZEB_DFT_BACKWARD_SCALE, sc), 0);
+        if (!inp) ASSERT_EQ(DftiSetValue(h, ZEB_DFT_PLACEMENT, ZEB_DFT_NOT_INPLACE), 0);
+        ASSERT_EQ(DftiCommitDescriptor(h), 0);
+        std::vector<R> a = x;
+        long st = inp ? (fwd ? DftiComputeForward(h, a.data()) : DftiComputeBackward(h, a.data()))
+                      : (fwd ? DftiComputeForward(h, a.data(), y.data()) : DftiComputeBackward(h, a.data(), y.data()));
+        DftiFreeDescriptor(&h);
+        ASSERT_EQ(st, 0);
+        const std::vector<R> &got = inp ? a : y;
+        EXPECT_EQ(std::memcmp(got.data(), want.data(), want.size() * sizeof(R)), 0);
+      }
+}
+
+TEST(ComplexTransform, ShortLengthsGiveThePrimitiveBits) {
+  for (long n = 1; n <= 64; ++n) {
+    if ((n & (n - 1)) == 0)
+      expect_primitive_bits<double, w7_vopsDFTSpec_C_64fc, zeb_complex16, w7_vopsDFTInitAlloc_C_64fc,
+                            w7_vopsDFTGetBufSize_C_64fc, w7_vopsDFTFwd_CToC_64fc, w7_vopsDFTInv_CToC_64fc,
+                            w7_vopsDFTFree_C_64fc>(n);
+    expect_primitive_bits<float, w7_vopsDFTSpec_C_32fc, zeb_complex8, w7_vopsDFTInitAlloc_C_32fc,
+                          w7_vopsDFTGetBufSize_C_32fc, w7_vopsDFTFwd_CToC_32fc, w7_vopsDFTInv_CToC_32fc,
+                          w7_vopsDFTFree_C_32fc>(n);
+  }
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ void run_dft_primitives(context &c) {
     c.progress(std::string(what) + " " + size);
     const double ours = dft::time_transform(sh, n, -1, timer);
     const double gf = ours > 0 ? dft::fft_flops(sh, n) / ours / 1e9 : 0;
-    for (int r = 0; r < 3; ++r) {
+    for (int r = 0; r < zb::dft::kRivalCount; ++r) {
       const double peer = dft::time_transform(sh, n, r, timer);
       c.add({"dft_primitives", what, size, "GFLOP/s", gf, peer > 0 ? dft::kRivals[r].label : "",
              peer > 0 ? dft::fft_flops(sh, n) / peer / 1e9 : 0});

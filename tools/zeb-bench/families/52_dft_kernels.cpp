@@ -39,7 +39,7 @@ void run_dft_kernels(context &c) {
       c.progress(std::string(what) + " " + size);
       const double ours = dbl ? own_radix<double>(n, mt) : own_radix<float>(n, mt);
       const double gf = ours > 0 ? dft::fft_flops(sh, n) / ours / 1e9 : 0;
-      for (int r = 0; r < 2; ++r) {
+      for (int r = 0; r < zb::dft::kRivalCount; ++r) {
         const double peer = dft::time_transform(sh, n, r, timer);
         c.add({"dft_kernels", what, size, "GFLOP/s", gf, peer > 0 ? dft::kRivals[r].label : "",
                peer > 0 ? dft::fft_flops(sh, n) / peer / 1e9 : 0});

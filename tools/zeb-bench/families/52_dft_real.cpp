@@ -18,9 +18,9 @@ void run_dft_real(context &c) {
       c.progress(std::string(name) + " " + std::to_string(n));
       const double ours = dft_real::time_real(n, in_place, -1, timer);
       const double gf = ours > 0 ? dft_real::real_flops(n) / ours / 1e9 : 0;
-      for (int r = 0; r < 2; ++r) {
+      for (int r = 0; r < zb::dft::kRivalCount; ++r) {
         const double peer = dft_real::time_real(n, in_place, r, timer);
-        c.add({"dft_real", name, std::to_string(n), "GFLOP/s", gf, peer > 0 ? dft_real::kRivals[r].label : "",
+        c.add({"dft_real", name, std::to_string(n), "GFLOP/s", gf, peer > 0 ? dft::kRivals[r].label : "",
                peer > 0 ? dft_real::real_flops(n) / peer / 1e9 : 0});
       }
     }

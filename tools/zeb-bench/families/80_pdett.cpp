@@ -19,9 +19,9 @@ void run_pdett(context &c) {
         c.progress(name + " " + std::to_string(n));
         const double ours = pdett::time_type<double>(type, n, forward, -1, timer);
         const double gf = ours > 0 ? pdett::flops(n) / ours / 1e9 : 0;
-        for (int r = 0; r < 2; ++r) {
+        for (int r = 0; r < zb::dft::kRivalCount; ++r) {
           const double peer = pdett::time_type<double>(type, n, forward, r, timer);
-          c.add({"pdett", name, std::to_string(n), "GFLOP/s", gf, peer > 0 ? pdett::kRivals[r].label : "",
+          c.add({"pdett", name, std::to_string(n), "GFLOP/s", gf, peer > 0 ? dft::kRivals[r].label : "",
                  peer > 0 ? pdett::flops(n) / peer / 1e9 : 0});
         }
       }

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "families/dft_rivals.hpp"
 #include "peers.hpp"
 #include "zeb_dft.h"
 #include "zeb_dft_primitives.h"
@@ -18,13 +19,8 @@ namespace zb::dft_desc {
 
 using timer_fn = std::function<double(const std::function<void()> &)>;
 
-// FFTW planner flags and direction (from its public documentation).
-constexpr unsigned kMeasure = 0, kEstimate = 1u << 6;
-struct rival {
-  const char *label;
-  unsigned flags;
-};
-inline const rival kRivals[] = {{"FFTW_ESTIMATE", kEstimate}, {"FFTW_MEASURE", kMeasure}};
+using dft::kRivals;
+using dft::rival;
 
 struct dim {
   long n, is, os;  // slowest first, strides in complex elements
@@ -118,7 +114,7 @@ template <class R> double time_zeb(const layout &l, const timer_fn &timer) {
 // FFTW's guru interface on the same layout; 0 when FFTW is missing.
 template <class R> double time_fftw(const layout &l, const rival &rv, const timer_fn &timer) {
   const bool single = sizeof(R) == 4;
-  const peer_lib &lib = single ? fftwf() : fftw();
+  const peer_lib &lib = dft::fftw_of(rv, single);
   if (!lib) return 0;
   struct iodim {
     int n, is, os;

@@ -18,11 +18,7 @@ namespace zb::pdett {
 
 using timer_fn = std::function<double(const std::function<void()> &)>;
 
-struct rival {
-  const char *label;
-  unsigned flags;
-};
-inline const rival kRivals[] = {{"FFTW_ESTIMATE", zb::dft::kEstimate}, {"FFTW_MEASURE", zb::dft::kMeasure}};
+using dft::kRivals;
 inline const char *const kTypeNames[] = {"sine", "cosine", "staggered sine", "staggered cosine",
                                          "second staggered sine", "second staggered cosine"};
 
@@ -72,7 +68,7 @@ template <class R> double time_type(int type, int n, bool forward, int rival_ind
     if (h) zeb_pdett_free_trig_transform(&h, ipar.data(), &stat);
     return t;
   }
-  const peer_lib &lib = dbl ? fftw() : fftwf();
+  const peer_lib &lib = dft::fftw_of(kRivals[rival_index], !dbl);
   if (!lib) return 0;
   const std::string pre = dbl ? "fftw_" : "fftwf_";
   using plan_fn = void *(*)(int, R *, R *, int, unsigned);

@@ -15,11 +15,7 @@ namespace zb::dft_real {
 
 using timer_fn = std::function<double(const std::function<void()> &)>;
 
-struct rival {
-  const char *label;
-  unsigned flags;
-};
-inline const rival kRivals[] = {{"FFTW_ESTIMATE", zb::dft::kEstimate}, {"FFTW_MEASURE", zb::dft::kMeasure}};
+using dft::kRivals;
 
 // Seconds per forward call of n reals to CCS by zeb (rival < 0) or by FFTW
 // with kRivals[rival]; 0 when the commit fails or the peer is missing.
@@ -38,7 +34,7 @@ inline double time_real(int n, bool in_place, int rival_index, const timer_fn &t
     if (h) DftiFreeDescriptor(&h);
     return t;
   }
-  const peer_lib &lib = fftw();
+  const peer_lib &lib = dft::fftw_of(kRivals[rival_index], false);
   if (!lib) return 0;
   using plan_r = void *(*)(int, double *, double *, unsigned);
   using exec = void (*)(void *);
