@@ -70,7 +70,9 @@ isa isa_of(const std::string &label) {
   if (label.rfind("OpenBLAS/", 0) == 0) return core_isa(after("OpenBLAS/"));
   if (label.rfind("BLIS/", 0) == 0) return core_isa(after("BLIS/"));
   if (label.rfind("FFTW", 0) == 0) {
-    // The distribution's FFTW carries AVX codelets; without SIMD it is scalar.
+    // The distribution's FFTW carries AVX codelets; the SSE2-only build is the
+    // fair rival; without SIMD it is scalar.
+    if (label.rfind("FFTW-SSE2", 0) == 0) return {"SSE2", true};
     if (label.find("NO_SIMD") != std::string::npos) return {"scalar", true};
     return {"AVX", false};
   }

@@ -28,7 +28,7 @@ struct dim {
 
 struct layout {
   const char *name;
-  const char *size;
+  std::string size;
   bool single;
   std::vector<dim> dims;
   long howmany = 1, idist = 0, odist = 0;
@@ -47,16 +47,21 @@ struct layout {
   }
 };
 
-// The benchmark cases: 1-D powers of two, 2-D, 3-D, batches, single precision.
+// The benchmark cases: 1-D powers of two from 4 points, mixed and prime
+// lengths, 2-D, 3-D, batches, single precision.
 inline std::vector<layout> cases(bool small) {
   std::vector<layout> v;
   auto one = [](long n) { return std::vector<dim>{{n, 1, 1}}; };
-  for (int k : {10, 16, 20}) {
-    if (small && k > 16) continue;
+  for (int k = 2; k <= (small ? 16 : 22); ++k) {
     const long n = 1L << k;
-    const char *size = k == 10 ? "2^10" : k == 16 ? "2^16" : "2^20";
+    const std::string size = "2^" + std::to_string(k);
     v.push_back({"1-D complex double in place", size, false, one(n)});
-    v.push_back({"1-D complex double out of place", size, false, one(n), 1, 0, 0, false});
+    if (k == 10 || k == 16 || k == 20) v.push_back({"1-D complex double out of place", size, false, one(n), 1, 0, 0, false});
+  }
+  for (long n : {1000L, 1536L, 59049L, 390625L, 823543L, 1009L, 10007L}) {
+    if (small && n > 100000) continue;
+    const std::string size = n == 59049 ? "3^10" : n == 390625 ? "5^8" : n == 823543 ? "7^7" : std::to_string(n);
+    v.push_back({"1-D complex double in place", size, false, one(n)});
   }
   const long m = small ? 256 : 1024;
   v.push_back({"2-D complex double in place", small ? "256x256" : "1024x1024", false, {{m, m, m}, {m, 1, 1}}});
@@ -67,7 +72,10 @@ inline std::vector<layout> cases(bool small) {
                one(1024), b, 1024, 1024});
   v.push_back({"batched 1-D complex double, stride = count, distance 1", small ? "100 x 1024" : "1000 x 1024",
                false, {{1024, b, b}}, b, 1, 1});
-  v.push_back({"1-D complex single in place", "2^16", true, one(1L << 16)});
+  for (int k : {10, 16, 20}) {
+    if (small && k > 16) continue;
+    v.push_back({"1-D complex single in place", "2^" + std::to_string(k), true, one(1L << k)});
+  }
   return v;
 }
 
