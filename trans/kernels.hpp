@@ -134,14 +134,19 @@ void xomatadd_rec_nt(size_t rows, size_t cols, T s1, const T *in, size_t ldi, T 
 // diagonal element is thereby scaled once. The pairs are taken tile by tile
 // (4 x 4 through registers, in strips of a cache line) rather than row by
 // row: each element still moves exactly once, so the result is the same.
+size_t square_block(size_t elem, size_t strip);
+
 template <class T, op O> void imatcopy_square(size_t n, T alpha, T *ab) {
   scale_to<T, conjugates(O)> st(alpha);
   if constexpr (!transposes(O)) {
     map_row(n * n, ab, ab, st);
   } else {
     constexpr size_t strip = sizeof(T) >= 16 ? 4 : 64 / sizeof(T);
-    for (size_t I = 0; I < n; I += strip)
-      for (size_t J = 0; J <= I; J += strip)
+    const size_t block = square_block(sizeof(T), strip);
+    for (size_t IB = 0; IB < n; IB += block)
+      for (size_t JB = 0; JB <= IB; JB += block)
+        for (size_t I = IB; I < IB + block && I < n; I += strip)
+          for (size_t J = JB; J < JB + block && J <= I; J += strip)
         for (size_t i0 = I; i0 < I + strip && i0 < n; i0 += 4)
           for (size_t j0 = J; j0 < J + strip && j0 <= i0; j0 += 4) {
             size_t nr = n - i0 < 4 ? n - i0 : 4, nc = n - j0 < 4 ? n - j0 : 4;

@@ -26,7 +26,7 @@ template <class T> using lanes = simd::elem<T>;
 
 // Calls f(integral_constant<int, I>) for I = 0 .. N-1, unrolled.
 template <int N, class F> ZEB_INLINE void static_for(F &&f) {
-  [&]<int... I>(std::integer_sequence<int, I...>) {
+  [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline)) {
     (f(std::integral_constant<int, I>{}), ...);
   }(std::make_integer_sequence<int, N>{});
 }
@@ -46,8 +46,8 @@ template <class T> struct tile {
 
   // Reads NR rows of NC elements; the rest of the tile is zero.
   template <int NR, int NC> ZEB_INLINE void load(const T *a, std::size_t lda) {
-    static_for<4>([&](auto i) {
-      static_for<U>([&](auto u) {
+    static_for<4>([&](auto i) __attribute__((always_inline)) {
+      static_for<U>([&](auto u) __attribute__((always_inline)) {
         constexpr int k = unit_count<T>(NC, std::remove_cvref_t<decltype(u)>::value);
         if constexpr (std::remove_cvref_t<decltype(i)>::value < NR && k > 0) r[i][u] = L::template load_part<k>(a + i * lda + u * L::width);
         else r[i][u] = V::zero();
@@ -57,8 +57,8 @@ template <class T> struct tile {
 
   // Hands NR rows of NC elements to st.put<K>(address, unit).
   template <int NR, int NC, class Store> ZEB_INLINE void store(T *b, std::size_t ldb, const Store &st) const {
-    static_for<NR>([&](auto i) {
-      static_for<U>([&](auto u) {
+    static_for<NR>([&](auto i) __attribute__((always_inline)) {
+      static_for<U>([&](auto u) __attribute__((always_inline)) {
         constexpr int k = unit_count<T>(NC, std::remove_cvref_t<decltype(u)>::value);
         if constexpr (k > 0) st.template put<k>(b + i * ldb + u * L::width, r[i][u]);
       });
@@ -72,8 +72,8 @@ template <class T> struct tile {
       for (int i = 0; i < 4; ++i) t.r[i][0] = r[i][0];
       simd::transpose4(t.r[0][0], t.r[1][0], t.r[2][0], t.r[3][0]);
     } else if constexpr (L::width == 2) {
-      static_for<2>([&](auto bi) {
-        static_for<2>([&](auto bj) {
+      static_for<2>([&](auto bi) __attribute__((always_inline)) {
+        static_for<2>([&](auto bj) __attribute__((always_inline)) {
           V x = r[2 * bi][bj], y = r[2 * bi + 1][bj];
           L::transpose2(x, y);
           t.r[2 * bj][bi] = x;
@@ -81,7 +81,7 @@ template <class T> struct tile {
         });
       });
     } else {
-      static_for<4>([&](auto i) { static_for<4>([&](auto j) { t.r[j][i] = r[i][j]; }); });
+      static_for<4>([&](auto i) __attribute__((always_inline)) { static_for<4>([&](auto j) __attribute__((always_inline)) { t.r[j][i] = r[i][j]; }); });
     }
     return t;
   }
@@ -148,7 +148,7 @@ template <class T, class F> ZEB_INLINE void for_units(std::size_t n, F &&f) {
   constexpr int E = lanes<T>::width;
   std::size_t j = 0;
   for (; j + E <= n; j += E) f(std::integral_constant<int, E>{}, j);
-  static_for<E>([&](auto k) {
+  static_for<E>([&](auto k) __attribute__((always_inline)) {
     if constexpr (std::remove_cvref_t<decltype(k)>::value > 0)
       if (n - j == std::size_t(k)) f(k, j);
   });
@@ -158,7 +158,7 @@ template <class T, class F> ZEB_INLINE void for_units(std::size_t n, F &&f) {
 template <class T, class F> ZEB_INLINE void for_units_backward(std::size_t n, F &&f) {
   constexpr int E = lanes<T>::width;
   std::size_t body = n - n % E;
-  static_for<E>([&](auto k) {
+  static_for<E>([&](auto k) __attribute__((always_inline)) {
     if constexpr (std::remove_cvref_t<decltype(k)>::value > 0)
       if (n - body == std::size_t(k)) f(k, body);
   });

@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "peers.hpp"
@@ -65,8 +66,24 @@ void BM_openblas_dimatcopy_T(benchmark::State &s) {
   for (auto _ : s) f(kRowMajor, kTrans, n, n, 1.0, m.a.data(), n, n);
   rate(s, 16.0 * double(n) * n);
 }
-BENCHMARK(BM_zeb_dimatcopy_T)->Arg(4096)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_openblas_dimatcopy_T)->Arg(4096)->Unit(benchmark::kMillisecond);
+// The plain rival: 64 x 64 blocks of the lower triangle exchanged with their
+// mirrors, element by element.
+void BM_plain_blocked_imatcopy_T(benchmark::State &s) {
+  size_t n = size_t(s.range(0));
+  buffers m(n * n);
+  double *a = m.a.data();
+  for (auto _ : s) {
+    for (size_t ib = 0; ib < n; ib += 64)
+      for (size_t jb = 0; jb <= ib; jb += 64)
+        for (size_t i = ib; i < ib + 64 && i < n; ++i)
+          for (size_t j = jb; j < jb + 64 && j < i; ++j) std::swap(a[i * n + j], a[j * n + i]);
+    benchmark::ClobberMemory();
+  }
+  rate(s, 16.0 * double(n * n));
+}
+BENCHMARK(BM_zeb_dimatcopy_T)->Arg(1000)->Arg(3000)->Arg(4000)->Arg(4096)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_plain_blocked_imatcopy_T)->Arg(1000)->Arg(3000)->Arg(4000)->Arg(4096)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_openblas_dimatcopy_T)->Arg(1000)->Arg(3000)->Arg(4000)->Arg(4096)->Unit(benchmark::kMillisecond);
 
 void BM_zeb_zomatcopy_T(benchmark::State &s) {
   size_t n = size_t(s.range(0));

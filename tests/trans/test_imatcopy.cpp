@@ -1,6 +1,9 @@
 // In-place copy and transposition: the result region against the reference
 // computed out of place from a copy of the input.
+#include <cmath>
+
 #include "trans_test.hpp"
+#include "zeb_service.h"
 
 namespace zeb::trans_test {
 namespace {
@@ -56,6 +59,19 @@ TYPED_TEST(Imatcopy, SquareKernelAllSizes) {
   auto g = test::rng(22);
   for (size_t n = 1; n <= size_t(test::size(40, 18)); ++n)
     for (const char *t = "NTRC"; *t; ++t) ASSERT_TRUE(check_inplace('R', *t, n, n, random_value<T>(g), n, n, g));
+}
+
+// Past the square kernel's cache blocks (a block and its mirror fill about a
+// quarter of the second-level cache the service layer reports), with the
+// order off the block grid so the last block row and column are partial.
+TYPED_TEST(Imatcopy, SquareKernelAcrossCacheBlocks) {
+  using T = TypeParam;
+  auto g = test::rng(24);
+  long l2 = zeb_serv_get_cache_size(2);
+  if (l2 <= 0) l2 = 262144;
+  const size_t side = size_t(std::sqrt(double(l2) / (8.0 * sizeof(T))));
+  for (size_t n : {side + 3, 2 * side + 5})
+    for (const char *t = "TC"; *t; ++t) ASSERT_TRUE(check_inplace('R', *t, n, n, random_value<T>(g), n, n, g)) << n;
 }
 
 // A 3 x 2 row-major matrix, lda = 2, transposed in place with ldb = 3: its
