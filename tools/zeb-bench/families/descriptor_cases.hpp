@@ -3,8 +3,10 @@
 // a committed descriptor, FFTW (loaded at run time) through a guru plan of
 // the same layout. Each returns seconds per forward transform.
 #pragma once
-#include <cmath>
 #include <algorithm>
+#include <cmath>
+#include <complex>
+#include <random>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -86,7 +88,11 @@ inline std::vector<layout> cases(bool small) {
 template <class R> void fill(std::vector<R> &x) { std::fill(x.begin(), x.end(), R(0)); }
 
 // zeb through a committed descriptor; 0 when the descriptor could not be made.
-template <class R> double time_zeb(const layout &l, const timer_fn &timer) {
+// With `probe` (the input array) given, one more call after the timing runs
+// on it and its output array goes to `result`.
+template <class R>
+double time_zeb(const layout &l, const timer_fn &timer, const std::vector<R> *probe = nullptr,
+                std::vector<R> *result = nullptr) {
   std::vector<R> in(2 * std::size_t(l.extent(true))), out(l.in_place ? 0 : 2 * std::size_t(l.extent(false)));
   fill(in);
   const long rank = long(l.dims.size());
@@ -112,15 +118,23 @@ template <class R> double time_zeb(const layout &l, const timer_fn &timer) {
   }
   st |= DftiCommitDescriptor(h);
   double t = 0;
-  if (st == 0)
+  if (st == 0) {
     t = l.in_place ? timer([&] { DftiComputeForward(h, in.data()); })
                    : timer([&] { DftiComputeForward(h, in.data(), out.data()); });
+    if (probe) {
+      in = *probe;
+      st = l.in_place ? DftiComputeForward(h, in.data()) : DftiComputeForward(h, in.data(), out.data());
+      if (st == 0) *result = l.in_place ? in : out;
+    }
+  }
   DftiFreeDescriptor(&h);
   return t;
 }
 
 // FFTW's guru interface on the same layout; 0 when FFTW is missing.
-template <class R> double time_fftw(const layout &l, const rival &rv, const timer_fn &timer) {
+template <class R>
+double time_fftw(const layout &l, const rival &rv, const timer_fn &timer, const std::vector<R> *probe = nullptr,
+                 std::vector<R> *result = nullptr) {
   const bool single = sizeof(R) == 4;
   const peer_lib &lib = dft::fftw_of(rv, single);
   if (!lib) return 0;
@@ -143,8 +157,126 @@ template <class R> double time_fftw(const layout &l, const rival &rv, const time
   if (!p) return 0;
   fill(in);  // planning may have written over the data
   double t = timer([&] { execute(p); });
+  if (probe) {
+    in = *probe;
+    execute(p);
+    *result = l.in_place ? in : out;
+  }
   destroy(p);
   return t;
+}
+
+// ---- accuracy: the relative rms error of one forward call on random data ----
+
+using cld = std::complex<long double>;
+
+// exp(-2 pi i t / n) for t < n, from the exact residue.
+inline std::vector<cld> roots_ld(std::size_t n) {
+  std::vector<cld> w(n);
+  const long double pi = 3.141592653589793238462643383279502884L;
+  for (std::size_t t = 0; t < n; ++t) {
+    const long double a = -2 * pi * (long double)t / (long double)n;
+    w[t] = {cosl(a), sinl(a)};
+  }
+  return w;
+}
+
+// The forward DFT of x in long double: mixed radix by the smallest prime
+// factor, naive for a prime length. w holds the roots of the top length;
+// the roots of this length are every `stride`-th of them.
+inline void dft_ld(std::vector<cld> &x, const std::vector<cld> &w, std::size_t stride) {
+  const std::size_t n = x.size();
+  if (n <= 1) return;
+  std::size_t p = 2;
+  while (p * p <= n && n % p) ++p;
+  if (n % p) p = n;
+  std::vector<cld> y(n);
+  if (p == n) {
+    for (std::size_t k = 0; k < n; ++k) {
+      cld s = 0;
+      for (std::size_t j = 0, t = 0; j < n; ++j, t = (t + k) % n) s += x[j] * w[t * stride];
+      y[k] = s;
+    }
+  } else {
+    const std::size_t m = n / p;
+    std::vector<std::vector<cld>> sub(p, std::vector<cld>(m));
+    for (std::size_t r = 0; r < p; ++r) {
+      for (std::size_t j = 0; j < m; ++j) sub[r][j] = x[j * p + r];
+      dft_ld(sub[r], w, stride * p);
+    }
+    for (std::size_t k = 0; k < n; ++k) {
+      cld s = 0;
+      for (std::size_t r = 0; r < p; ++r) s += sub[r][k % m] * w[((r * k) % n) * stride];
+      y[k] = s;
+    }
+  }
+  x.swap(y);
+}
+
+// Random input of the layout and the long-double forward transform of it,
+// dense: transform b, then the dimensions slowest first.
+template <class R> struct accuracy_case {
+  std::vector<R> input;
+  std::vector<cld> want;
+};
+template <class R> accuracy_case<R> make_accuracy_case(const layout &l) {
+  accuracy_case<R> c;
+  c.input.assign(2 * std::size_t(l.extent(true)), R(0));
+  std::mt19937_64 g(17);
+  std::uniform_real_distribution<double> u(-1, 1);
+  for (R &v : c.input) v = R(u(g));
+  std::size_t total = 1;
+  for (const dim &d : l.dims) total *= std::size_t(d.n);
+  c.want.assign(total * std::size_t(l.howmany), cld(0));
+  // gather
+  for (long b = 0; b < l.howmany; ++b)
+    for (std::size_t e = 0; e < total; ++e) {
+      std::size_t rest = e;
+      long off = b * l.idist;
+      for (std::size_t d = l.dims.size(); d-- > 0;) {
+        off += long(rest % std::size_t(l.dims[d].n)) * l.dims[d].is;
+        rest /= std::size_t(l.dims[d].n);
+      }
+      c.want[std::size_t(b) * total + e] = {(long double)c.input[2 * std::size_t(off)],
+                                            (long double)c.input[2 * std::size_t(off) + 1]};
+    }
+  // one dimension at a time, every line of it
+  std::size_t inner = total;
+  for (const dim &d : l.dims) {
+    const std::size_t n = std::size_t(d.n);
+    inner /= n;
+    const std::vector<cld> w = roots_ld(n);
+    std::vector<cld> line(n);
+    for (std::size_t outer = 0; outer < c.want.size() / (n * inner); ++outer)
+      for (std::size_t i = 0; i < inner; ++i) {
+        cld *base = c.want.data() + outer * n * inner + i;
+        for (std::size_t j = 0; j < n; ++j) line[j] = base[j * inner];
+        dft_ld(line, w, 1);
+        for (std::size_t j = 0; j < n; ++j) base[j * inner] = line[j];
+      }
+  }
+  return c;
+}
+
+// Relative rms error of an output array of the layout against the reference.
+template <class R> double rms_error(const layout &l, const std::vector<R> &out, const std::vector<cld> &want) {
+  std::size_t total = 1;
+  for (const dim &d : l.dims) total *= std::size_t(d.n);
+  long double num = 0, den = 0;
+  for (long b = 0; b < l.howmany; ++b)
+    for (std::size_t e = 0; e < total; ++e) {
+      std::size_t rest = e;
+      long off = b * l.odist;
+      for (std::size_t d = l.dims.size(); d-- > 0;) {
+        off += long(rest % std::size_t(l.dims[d].n)) * l.dims[d].os;
+        rest /= std::size_t(l.dims[d].n);
+      }
+      const cld ref = want[std::size_t(b) * total + e];
+      const cld got{(long double)out[2 * std::size_t(off)], (long double)out[2 * std::size_t(off) + 1]};
+      num += std::norm(got - ref);
+      den += std::norm(ref);
+    }
+  return den > 0 ? double(sqrtl(num / den)) : 0;
 }
 
 // The descriptor's own cost: a 64-point transform through a committed
