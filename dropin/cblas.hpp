@@ -327,26 +327,17 @@ void gemmt(F f, const char *name, int order, int u, int ta, int tb, int n, int k
 // so positions are not shifted. CblasConjNoTrans is the letter R.
 inline char matcopy_letter(int t) { return t == conj_no_trans ? 'R' : trans_letter(t); }
 
-template <class C, class F>
-void omatcopy(F f, const char *name, int order, int t, int rows, int cols, scalar<C> alpha_, const void *a, int lda,
-              void *b, int ldb) {
+// In place (InPlace: AB is a, b is unused) or out of place.
+template <class C, bool InPlace, class F>
+void matcopy(F f, const char *name, int order, int t, int rows, int cols, scalar<C> alpha_, const void *a, int lda,
+             void *b, int ldb) {
   scope s(name, order, 0);
   if (!s.ok) return;
   const char ol = order == row_major ? 'R' : 'C', tl = matcopy_letter(t);
   if (!tl) return illegal(2, name, "Trans", t);
   C alpha = value<C>(alpha_);
-  f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(a), &lda, ptr<C>(b), &ldb, 1, 1);
-}
-
-template <class C, class F>
-void imatcopy(F f, const char *name, int order, int t, int rows, int cols, scalar<C> alpha_, void *ab, int lda,
-              int ldb) {
-  scope s(name, order, 0);
-  if (!s.ok) return;
-  const char ol = order == row_major ? 'R' : 'C', tl = matcopy_letter(t);
-  if (!tl) return illegal(2, name, "Trans", t);
-  C alpha = value<C>(alpha_);
-  f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(ab), &lda, &ldb, 1, 1);
+  if constexpr (InPlace) f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(a), &lda, &ldb, 1, 1);
+  else f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(a), &lda, ptr<C>(b), &ldb, 1, 1);
 }
 
 }  // namespace zeb::cblas

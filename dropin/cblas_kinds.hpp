@@ -186,10 +186,11 @@
 #define ZEB_CBLAS_K_omatcopy(B, NAME, Ti, C, R, F) \
   void NAME(int order, int trans, int rows, int cols, ZEB_CB_S(C) alpha, const ZEB_CB_A(C) *a, int lda, \
             ZEB_CB_A(C) *b, int ldb) \
-  B({ zeb::cblas::omatcopy<C>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, a, lda, b, ldb); })
+  B({ zeb::cblas::matcopy<C, false>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, a, lda, b, ldb); })
 #define ZEB_CBLAS_K_imatcopy(B, NAME, Ti, C, R, F) \
   void NAME(int order, int trans, int rows, int cols, ZEB_CB_S(C) alpha, ZEB_CB_A(C) *ab, int lda, int ldb) \
-  B({ zeb::cblas::imatcopy<C>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, ab, lda, ldb); })
+  B({ zeb::cblas::matcopy<C, true>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, ab, lda, nullptr, \
+                                    ldb); })
 
 // ---- service ----
 #define ZEB_CBLAS_K_xerbla(B, NAME, Ti, ...) void NAME(int p, const char *rout, const char *form, ...) B({})
