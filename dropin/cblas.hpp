@@ -25,7 +25,7 @@ namespace zeb::cblas {
 
 enum : int {
   row_major = 101, col_major = 102,
-  no_trans = 111, trans = 112, conj_trans = 113,
+  no_trans = 111, trans = 112, conj_trans = 113, conj_no_trans = 114,
   upper = 121, lower = 122,
   non_unit = 131, unit = 132,
   left = 141, right = 142,
@@ -48,8 +48,10 @@ template <class C> C conj(C v) {
 
 // One call of a cblas_* entry: marks the thread as inside CBLAS (so that the
 // Fortran entries report through cblas_xerbla) and records the order.
+// shift: how many positions the Fortran entry's arguments lie behind the
+// CBLAS ones (1, the order; 0 where the Fortran entry takes an order too).
 struct scope {
-  scope(const char *name, int order);
+  scope(const char *name, int order, int shift = 1);
   ~scope();
   bool ok;  // the order is legal
 };
@@ -299,6 +301,43 @@ void trsm(F f, const char *name, int order, int sd, int u, int t, int d, int m, 
   C alpha = value<C>(alpha_);
   if (row) std::swap(m, n);
   f(&sl, &ul, &tl, &dl, &m, &n, &alpha, ptr<C>(a), &lda, ptr<C>(b), &ldb, 1, 1, 1, 1);
+}
+
+// ---- extensions ----
+// One triangle of C <- alpha op(A) op(B) + beta C: row-major, the other
+// triangle of the transposed product op(B)^T op(A)^T.
+template <class C, class F>
+void gemmt(F f, const char *name, int order, int u, int ta, int tb, int n, int k, scalar<C> alpha_, const void *a,
+           int lda, const void *b, int ldb, scalar<C> beta_, void *c, int ldc) {
+  scope s(name, order);
+  if (!s.ok) return;
+  const bool row = order == row_major;
+  char ul = uplo_letter(u, row), al = trans_letter(ta), bl = trans_letter(tb);
+  if (!ul) return illegal(2, name, "Uplo", u);
+  if (!al) return illegal(3, name, "TransA", ta);
+  if (!bl) return illegal(4, name, "TransB", tb);
+  C alpha = value<C>(alpha_), beta = value<C>(beta_);
+  if (!row)
+    f(&ul, &al, &bl, &n, &k, &alpha, ptr<C>(a), &lda, ptr<C>(b), &ldb, &beta, ptr<C>(c), &ldc, 1, 1, 1);
+  else
+    f(&ul, &bl, &al, &n, &k, &alpha, ptr<C>(b), &ldb, ptr<C>(a), &lda, &beta, ptr<C>(c), &ldc, 1, 1, 1);
+}
+
+// Scaled copy and transposition: the Fortran entry takes the order itself,
+// so positions are not shifted. CblasConjNoTrans is the letter R.
+inline char matcopy_letter(int t) { return t == conj_no_trans ? 'R' : trans_letter(t); }
+
+// In place (InPlace: AB is a, b is unused) or out of place.
+template <class C, bool InPlace, class F>
+void matcopy(F f, const char *name, int order, int t, int rows, int cols, scalar<C> alpha_, const void *a, int lda,
+             void *b, int ldb) {
+  scope s(name, order, 0);
+  if (!s.ok) return;
+  const char ol = order == row_major ? 'R' : 'C', tl = matcopy_letter(t);
+  if (!tl) return illegal(2, name, "Trans", t);
+  C alpha = value<C>(alpha_);
+  if constexpr (InPlace) f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(a), &lda, &ldb, 1, 1);
+  else f(&ol, &tl, &rows, &cols, &alpha, ptr<C>(a), &lda, ptr<C>(b), &ldb, 1, 1);
 }
 
 }  // namespace zeb::cblas

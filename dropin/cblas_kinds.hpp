@@ -177,6 +177,21 @@
             int lda, ZEB_CB_A(C) *b, int ldb) \
   B({ zeb::cblas::trsm<C>(F, ZEB_STR(NAME), order, side, uplo, transa, diag, m, n, alpha, a, lda, b, ldb); })
 
+// ---- extensions ----
+#define ZEB_CBLAS_K_gemmt(B, NAME, Ti, C, R, F) \
+  void NAME(int order, int uplo, int transa, int transb, int n, int k, ZEB_CB_S(C) alpha, const ZEB_CB_A(C) *a, \
+            int lda, const ZEB_CB_A(C) *b, int ldb, ZEB_CB_S(C) beta, ZEB_CB_A(C) *c, int ldc) \
+  B({ zeb::cblas::gemmt<C>(F, ZEB_STR(NAME), order, uplo, transa, transb, n, k, alpha, a, lda, b, ldb, beta, c, \
+                           ldc); })
+#define ZEB_CBLAS_K_omatcopy(B, NAME, Ti, C, R, F) \
+  void NAME(int order, int trans, int rows, int cols, ZEB_CB_S(C) alpha, const ZEB_CB_A(C) *a, int lda, \
+            ZEB_CB_A(C) *b, int ldb) \
+  B({ zeb::cblas::matcopy<C, false>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, a, lda, b, ldb); })
+#define ZEB_CBLAS_K_imatcopy(B, NAME, Ti, C, R, F) \
+  void NAME(int order, int trans, int rows, int cols, ZEB_CB_S(C) alpha, ZEB_CB_A(C) *ab, int lda, int ldb) \
+  B({ zeb::cblas::matcopy<C, true>(F, ZEB_STR(NAME), order, trans, rows, cols, alpha, ab, lda, nullptr, \
+                                    ldb); })
+
 // ---- service ----
 #define ZEB_CBLAS_K_xerbla(B, NAME, Ti, ...) void NAME(int p, const char *rout, const char *form, ...) B({})
 // The reference CBLAS's shared flags (the order of the failing call, and

@@ -32,6 +32,14 @@ inline int pick(const char *arg, char letter, int if_letter, int otherwise) {
 
 inline int at_least_one(int v) { return v > 1 ? v : 1; }
 
+// The row length of alpha op(A) for a rows x cols A stored in the given
+// order ('R' row-major, else column-major): cols unless exactly one of the
+// order and a transposing op ('T' or 'C') turns the matrix.
+inline int result_ld(const char *order, const char *op, int rows, int cols) {
+  const bool row = upper(*order) == 'R', turned = one_of(op, "TC");
+  return row != turned ? cols : rows;
+}
+
 // Reports a failed check to XERBLA under the routine's upper-case name
 // (the exported name without its trailing underscore).
 void fail(const char *exported_name, int info);

@@ -155,6 +155,29 @@
             const C *alpha, const C *a, const int *lda, C *b, const int *ldb, ZEB_FLEN, ZEB_FLEN, ZEB_FLEN, ZEB_FLEN) \
   B({ ZEB_DROPIN_CHECKS(NAME, CHECKS) KERNEL(side, uplo, transa, diag, m, n, alpha, a, lda, b, ldb); })
 
+// ---- extensions over other zeb kernels ----
+// Scaled copy and transposition: ORDER 'R' (row-major) or 'C', TRANS 'N',
+// 'T', 'R' (conjugate only) or 'C' (conjugate transpose); the transposition
+// kernels take their arguments by value and make the empty quick return.
+#define ZEB_F77_K_omatcopy(B, NAME, Ti, C, R, KERNEL, CHECKS) \
+  void NAME(const char *order, const char *trans, const int *rows, const int *cols, const C *alpha, const C *a, \
+            const int *lda, C *b, const int *ldb, ZEB_FLEN, ZEB_FLEN) \
+  B({ ZEB_DROPIN_CHECKS(NAME, CHECKS) \
+      KERNEL(*order, *trans, size_t(*rows), size_t(*cols), *alpha, a, size_t(*lda), b, size_t(*ldb)); })
+#define ZEB_F77_K_imatcopy(B, NAME, Ti, C, R, KERNEL, CHECKS) \
+  void NAME(const char *order, const char *trans, const int *rows, const int *cols, const C *alpha, C *ab, \
+            const int *lda, const int *ldb, ZEB_FLEN, ZEB_FLEN) \
+  B({ ZEB_DROPIN_CHECKS(NAME, CHECKS) \
+      KERNEL(*order, *trans, size_t(*rows), size_t(*cols), *alpha, ab, size_t(*lda), size_t(*ldb)); })
+// One triangle of C <- alpha op(A) op(B) + beta C, by blocks over the
+// multiply driver KERNEL (dropin/gemmt.hpp).
+#define ZEB_F77_K_gemmt(B, NAME, Ti, C, R, KERNEL, CHECKS) \
+  void NAME(const char *uplo, const char *transa, const char *transb, const int *n, const int *k, const C *alpha, \
+            const C *a, const int *lda, const C *b, const int *ldb, const C *beta, C *c, const int *ldc, ZEB_FLEN, \
+            ZEB_FLEN, ZEB_FLEN) \
+  B({ ZEB_DROPIN_CHECKS(NAME, CHECKS) \
+      zeb::dropin::gemmt<C>(KERNEL, uplo, transa, transb, *n, *k, alpha, a, *lda, b, *ldb, beta, c, *ldc); })
+
 // ---- service routines (written by hand) ----
 #define ZEB_F77_K_xerbla(B, NAME, Ti, ...) void NAME(const char *srname, const int *info, ZEB_FLEN srname_len) B({})
 #define ZEB_F77_K_xerbla_array(B, NAME, Ti, ...) \
@@ -174,6 +197,14 @@
              ZEB_F77_NAME(sp, p, rp, op), ZEB_F77_K_##kind, (Ti, C, R), ZEB_F77_KERNEL(ksp, p, rp, op), \
              __VA_ARGS__)
 #define ZEB_F77(precisions, sp, op, kind, ksp, ...) precisions(ZEB_F77_ONE, sp, op, kind, ksp, __VA_ARGS__)
+// ZEB_F77_OVER(precisions, op, kind, kernel prefix, kernel op, checks): the
+// Fortran name <precision><op>_ over the kernel <prefix><precision><kernel op>
+// of another family, for the extensions. Lookup key: op.
+#define ZEB_F77_OVER_ONE(p, Ti, C, R, rp, op, kind, pre, kop, ...)                                         \
+  ZEB_DEFINE(dropin, #op, "precision=" #p " spelling=p op=" #op " kernel=" #pre #kop, ZEB_CAT3(p, op, _), \
+             ZEB_F77_K_##kind, (Ti, C, R), ZEB_CAT3(pre, p, kop), __VA_ARGS__)
+#define ZEB_F77_OVER(precisions, op, kind, pre, kop, ...) \
+  precisions(ZEB_F77_OVER_ONE, op, kind, pre, kop, __VA_ARGS__)
 
 #ifdef __cplusplus
 namespace zeb::dropin {

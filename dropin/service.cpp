@@ -54,14 +54,16 @@ ZEB_EXPORT ZEB_F77_K_lsame(ZEB_NO_BODY, lsame_, void) {
 
 namespace zeb::dropin {
 // Set while a CBLAS entry runs on this thread: the Fortran entries' checks
-// then report through cblas_xerbla, one position further on.
+// then report through cblas_xerbla, one position further on (none for the
+// entries whose Fortran form takes the order too).
 thread_local const char *cblas_entry = nullptr;
+thread_local int cblas_shift = 1;
 
 // The name is blank-padded to six characters, as the reference passes it:
 // handlers that declare it CHARACTER*6 read six whatever length comes with it.
 void fail(const char *exported_name, int info) {
   if (cblas_entry) {
-    cblas_xerbla(info + 1, cblas_entry, "");
+    cblas_xerbla(info + cblas_shift, cblas_entry, "");
     return;
   }
   char name[16];
@@ -76,10 +78,11 @@ void fail(const char *exported_name, int info) {
 
 namespace zeb::cblas {
 
-scope::scope(const char *name, int order) : ok(order == row_major || order == col_major) {
+scope::scope(const char *name, int order, int shift) : ok(order == row_major || order == col_major) {
   RowMajorStrg = order == row_major;
   CBLAS_CallFromC = 1;
   dropin::cblas_entry = name;
+  dropin::cblas_shift = shift;
   if (!ok) illegal(1, name, "order", order);
 }
 

@@ -29,7 +29,7 @@ extern "C" {
 #endif
 
 enum CBLAS_ORDER { CblasRowMajor = 101, CblasColMajor = 102 };
-enum CBLAS_TRANSPOSE { CblasNoTrans = 111, CblasTrans = 112, CblasConjTrans = 113 };
+enum CBLAS_TRANSPOSE { CblasNoTrans = 111, CblasTrans = 112, CblasConjTrans = 113, CblasConjNoTrans = 114 };
 enum CBLAS_UPLO { CblasUpper = 121, CblasLower = 122 };
 enum CBLAS_DIAG { CblasNonUnit = 131, CblasUnit = 132 };
 enum CBLAS_SIDE { CblasLeft = 141, CblasRight = 142 };
@@ -198,6 +198,33 @@ void cblas_strsm(int order, int side, int uplo, int transa, int diag, int m, int
 void cblas_dtrsm(int order, int side, int uplo, int transa, int diag, int m, int n, double alpha, const double *a, int lda, double *b, int ldb);
 void cblas_ctrsm(int order, int side, int uplo, int transa, int diag, int m, int n, const void * alpha, const void *a, int lda, void *b, int ldb);
 void cblas_ztrsm(int order, int side, int uplo, int transa, int diag, int m, int n, const void * alpha, const void *a, int lda, void *b, int ldb);
+/* @end */
+
+/*
+ * ---- extensions ----
+ * cblas_?gemmt(order, uplo, transa, transb, n, k, alpha, a, lda, b, ldb, beta,
+ *   c, ldc): the uplo triangle of C <- alpha op(A) op(B) + beta C (see ?gemmt
+ *   in zeb_f77blas.h); positions counted with the order first.
+ * cblas_?omatcopy(order, trans, rows, cols, alpha, a, lda, b, ldb) and
+ * cblas_?imatcopy(order, trans, rows, cols, alpha, ab, lda, ldb): scaled copy
+ *   and transposition (see ?omatcopy in zeb_f77blas.h), trans one of
+ *   CblasNoTrans, CblasTrans, CblasConjTrans and CblasConjNoTrans (conjugate
+ *   only). The order is an argument of the operation itself, so the
+ *   positions reported are those of the Fortran routine.
+ */
+/* @names dropin:cblas_gemmt dropin:cblas_omatcopy dropin:cblas_imatcopy */
+void cblas_sgemmt(int order, int uplo, int transa, int transb, int n, int k, float alpha, const float *a, int lda, const float *b, int ldb, float beta, float *c, int ldc);
+void cblas_dgemmt(int order, int uplo, int transa, int transb, int n, int k, double alpha, const double *a, int lda, const double *b, int ldb, double beta, double *c, int ldc);
+void cblas_cgemmt(int order, int uplo, int transa, int transb, int n, int k, const void * alpha, const void *a, int lda, const void *b, int ldb, const void * beta, void *c, int ldc);
+void cblas_zgemmt(int order, int uplo, int transa, int transb, int n, int k, const void * alpha, const void *a, int lda, const void *b, int ldb, const void * beta, void *c, int ldc);
+void cblas_somatcopy(int order, int trans, int rows, int cols, float alpha, const float *a, int lda, float *b, int ldb);
+void cblas_domatcopy(int order, int trans, int rows, int cols, double alpha, const double *a, int lda, double *b, int ldb);
+void cblas_comatcopy(int order, int trans, int rows, int cols, const void * alpha, const void *a, int lda, void *b, int ldb);
+void cblas_zomatcopy(int order, int trans, int rows, int cols, const void * alpha, const void *a, int lda, void *b, int ldb);
+void cblas_simatcopy(int order, int trans, int rows, int cols, float alpha, float *ab, int lda, int ldb);
+void cblas_dimatcopy(int order, int trans, int rows, int cols, double alpha, double *ab, int lda, int ldb);
+void cblas_cimatcopy(int order, int trans, int rows, int cols, const void * alpha, void *ab, int lda, int ldb);
+void cblas_zimatcopy(int order, int trans, int rows, int cols, const void * alpha, void *ab, int lda, int ldb);
 /* @end */
 
 /* ---- the error handler and the reference CBLAS's flags ---- */

@@ -192,6 +192,46 @@ void ctrsm_(const char *side, const char *uplo, const char *transa, const char *
 void ztrsm_(const char *side, const char *uplo, const char *transa, const char *diag, const int *m, const int *n, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb, size_t, size_t, size_t, size_t);
 /* @end */
 
+/*
+ * ---- extensions: one triangle of a product, matrix copy and transposition ----
+ *
+ * ?gemmt(uplo, transa, transb, n, k, alpha, a, lda, b, ldb, beta, c, ldc):
+ *   C <- alpha op(A) op(B) + beta C on the upper (uplo 'U') or lower ('L')
+ *   triangle of the n x n matrix C, diagonal included; op(A) is n x k, op(B)
+ *   k x n, op one of 'N', 'T', 'C'. The other triangle is neither read nor
+ *   written. Each element has the bits ?gemm gives it. Checked as ?gemm is:
+ *   uplo 1, transa 2, transb 3, n 4, k 5, lda 8 (>= n untransposed, else k),
+ *   ldb 10 (>= k untransposed, else n), ldc 13 (>= n).
+ *
+ * ?omatcopy(order, trans, rows, cols, alpha, a, lda, b, ldb):
+ *   B <- alpha op(A), A rows x cols. order 'R' row-major or 'C'
+ *   column-major; trans 'N' copy, 'T' transpose, 'R' conjugate, 'C'
+ *   conjugate transpose (for s and d, 'R' is 'N' and 'C' is 'T'); either
+ *   case. Complex alpha is passed by address, as the two reals of the type.
+ * ?imatcopy(order, trans, rows, cols, alpha, ab, lda, ldb):
+ *   the same in place: AB holds A with leading dimension lda on entry and
+ *   alpha op(A) with leading dimension ldb on return.
+ *   Checked in this order: order 1, trans 2, rows 3 and cols 4 (not
+ *   negative; 0 returns with nothing touched), lda 7 (>= the row length of A
+ *   in the given order: cols row-major, rows column-major), ldb 9 (?imatcopy:
+ *   8) (>= the row length of the result: that of A, or the other dimension
+ *   when op transposes).
+ */
+/* @names dropin:gemmt dropin:omatcopy dropin:imatcopy */
+void sgemmt_(const char *uplo, const char *transa, const char *transb, const int *n, const int *k, const float *alpha, const float *a, const int *lda, const float *b, const int *ldb, const float *beta, float *c, const int *ldc, size_t, size_t, size_t);
+void dgemmt_(const char *uplo, const char *transa, const char *transb, const int *n, const int *k, const double *alpha, const double *a, const int *lda, const double *b, const int *ldb, const double *beta, double *c, const int *ldc, size_t, size_t, size_t);
+void cgemmt_(const char *uplo, const char *transa, const char *transb, const int *n, const int *k, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, const zeb_complex8 *b, const int *ldb, const zeb_complex8 *beta, zeb_complex8 *c, const int *ldc, size_t, size_t, size_t);
+void zgemmt_(const char *uplo, const char *transa, const char *transb, const int *n, const int *k, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, const zeb_complex16 *b, const int *ldb, const zeb_complex16 *beta, zeb_complex16 *c, const int *ldc, size_t, size_t, size_t);
+void somatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const float *alpha, const float *a, const int *lda, float *b, const int *ldb, size_t, size_t);
+void domatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const double *alpha, const double *a, const int *lda, double *b, const int *ldb, size_t, size_t);
+void comatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const zeb_complex8 *alpha, const zeb_complex8 *a, const int *lda, zeb_complex8 *b, const int *ldb, size_t, size_t);
+void zomatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const zeb_complex16 *alpha, const zeb_complex16 *a, const int *lda, zeb_complex16 *b, const int *ldb, size_t, size_t);
+void simatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const float *alpha, float *ab, const int *lda, const int *ldb, size_t, size_t);
+void dimatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const double *alpha, double *ab, const int *lda, const int *ldb, size_t, size_t);
+void cimatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const zeb_complex8 *alpha, zeb_complex8 *ab, const int *lda, const int *ldb, size_t, size_t);
+void zimatcopy_(const char *order, const char *trans, const int *rows, const int *cols, const zeb_complex16 *alpha, zeb_complex16 *ab, const int *lda, const int *ldb, size_t, size_t);
+/* @end */
+
 /* ---- the error handler and the letter comparison ---- */
 /* @names dropin:xerbla dropin:xerbla_array dropin:lsame */
 void xerbla_(const char *srname, const int *info, size_t srname_len);

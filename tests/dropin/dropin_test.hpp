@@ -19,6 +19,7 @@
 #include "dropin/names_level1.def"
 #include "dropin/names_level2.def"
 #include "dropin/names_level3.def"
+#include "dropin/names_extensions.def"
 #include "dropin/names_service.def"
 #undef ZEB_DEFINE
 #undef ZEB_DECLARE

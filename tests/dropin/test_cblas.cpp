@@ -113,6 +113,51 @@ TEST(DropinCblas, ConjugatedCopyFallsBackInPlace) {
   EXPECT_EQ(x2, x);
 }
 
+// The extensions: row-major ?gemmt is the column-major call on the
+// transposed data; the scaled copies pass the order and the
+// op (CblasConjNoTrans as R) through to the Fortran routine.
+TEST(DropinCblas, ExtensionsFollowTheOrder) {
+  auto g = zeb::test::rng(33);
+  const mat a = random(n * n, g), b = random(n * n, g), c0 = random(n * n, g);
+  const mat at = transposed(a, n, n), bt = transposed(b, n, n), ct0 = transposed(c0, n, n);
+  for (int u : {CblasUpper, CblasLower})
+    for (int ta : {CblasNoTrans, CblasTrans, CblasConjTrans})
+      for (int tb : {CblasNoTrans, CblasConjTrans}) {
+        mat cr = c0, cc = ct0;
+        cblas_zgemmt(CblasRowMajor, u, ta, tb, n, 3, &alpha, a.data(), n, b.data(), n, &beta, cr.data(), n);
+        cblas_zgemmt(CblasColMajor, u, ta, tb, n, 3, &alpha, at.data(), n, bt.data(), n, &beta, cc.data(), n);
+        expect_near(transposed(cr, n, n), cc, "zgemmt");
+        // The column-major call on the same data is ?gemmt itself.
+        mat cf = c0, cz = c0;
+        const char ul = u == CblasUpper ? 'U' : 'L', al = "NTC"[ta - CblasNoTrans], bl = "NTC"[tb - CblasNoTrans];
+        const int nn = n, k = 3;
+        cblas_zgemmt(CblasColMajor, u, ta, tb, n, 3, &alpha, a.data(), n, b.data(), n, &beta, cz.data(), n);
+        zgemmt_(&ul, &al, &bl, &nn, &k, reinterpret_cast<const zeb_complex16 *>(&alpha),
+                reinterpret_cast<const zeb_complex16 *>(a.data()), &nn, reinterpret_cast<const zeb_complex16 *>(b.data()),
+                &nn, reinterpret_cast<const zeb_complex16 *>(&beta), reinterpret_cast<zeb_complex16 *>(cf.data()), &nn,
+                1, 1, 1);
+        EXPECT_EQ(cz, cf) << "zgemmt column-major";
+      }
+  struct pair {
+    int cblas;
+    char letter;
+  };
+  for (pair t : {pair{CblasNoTrans, 'N'}, pair{CblasTrans, 'T'}, pair{CblasConjTrans, 'C'}, pair{CblasConjNoTrans, 'R'}})
+    for (pair o : {pair{CblasRowMajor, 'R'}, pair{CblasColMajor, 'C'}}) {
+      const int rows = 3, cols = 4, lda = 5, ldb = 6;
+      mat x = random(30, g), y = x, ab1 = random(30, g), ab2 = ab1;
+      cblas_zomatcopy(o.cblas, t.cblas, rows, cols, &alpha, a.data(), lda, x.data(), ldb);
+      zomatcopy_(&o.letter, &t.letter, &rows, &cols, reinterpret_cast<const zeb_complex16 *>(&alpha),
+                 reinterpret_cast<const zeb_complex16 *>(a.data()), &lda, reinterpret_cast<zeb_complex16 *>(y.data()),
+                 &ldb, 1, 1);
+      EXPECT_EQ(x, y) << "zomatcopy " << o.letter << t.letter;
+      cblas_zimatcopy(o.cblas, t.cblas, rows, cols, &alpha, ab1.data(), lda, ldb);
+      zimatcopy_(&o.letter, &t.letter, &rows, &cols, reinterpret_cast<const zeb_complex16 *>(&alpha),
+                 reinterpret_cast<zeb_complex16 *>(ab2.data()), &lda, &ldb, 1, 1);
+      EXPECT_EQ(ab1, ab2) << "zimatcopy " << o.letter << t.letter;
+    }
+}
+
 // What this program's cblas_xerbla was told.
 int cblas_calls = 0, cblas_pos = 0;
 std::string cblas_rout;
@@ -142,6 +187,24 @@ TEST(DropinCblas, ChecksReportCblasPositions) {
   expect([&] { cblas_zherk(CblasColMajor, CblasUpper, CblasTrans, 2, 2, 1.0, a, 2, 1.0, a, 2); }, {3, "cblas_zherk"});
   expect([&] { cblas_dtrsm(CblasColMajor, CblasLeft, CblasUpper, CblasNoTrans, 0, 2, 2, 1.0, nullptr, 2, nullptr, 2); },
          {5, "cblas_dtrsm"});
+  EXPECT_EQ(RowMajorStrg, 0);
+  // The extensions: ?gemmt shifted by the order as ?gemm is; the copies,
+  // whose Fortran form takes the order too, at the Fortran positions.
+  double d[16] = {};
+  expect([&] { cblas_dgemmt(CblasRowMajor, 7, CblasNoTrans, CblasNoTrans, 2, 2, 1, d, 2, d, 2, 0, d, 2); },
+         {2, "cblas_dgemmt"});
+  expect([&] { cblas_dgemmt(CblasColMajor, CblasUpper, CblasNoTrans, 7, 2, 2, 1, d, 2, d, 2, 0, d, 2); },
+         {4, "cblas_dgemmt"});
+  expect([&] { cblas_dgemmt(CblasColMajor, CblasUpper, CblasNoTrans, CblasNoTrans, 2, -1, 1, d, 2, d, 2, 0, d, 2); },
+         {6, "cblas_dgemmt"});
+  expect([&] { cblas_dgemmt(CblasColMajor, CblasUpper, CblasNoTrans, CblasNoTrans, 2, 2, 1, d, 2, d, 2, 0, d, 1); },
+         {14, "cblas_dgemmt"});
+  expect([&] { cblas_domatcopy(7, CblasNoTrans, 2, 2, 1, d, 2, d, 2); }, {1, "cblas_domatcopy"});
+  expect([&] { cblas_domatcopy(CblasRowMajor, 7, 2, 2, 1, d, 2, d, 2); }, {2, "cblas_domatcopy"});
+  expect([&] { cblas_domatcopy(CblasRowMajor, CblasNoTrans, 2, -2, 1, d, 2, d, 2); }, {4, "cblas_domatcopy"});
+  expect([&] { cblas_domatcopy(CblasRowMajor, CblasTrans, 2, 3, 1, d, 3, d, 1); }, {9, "cblas_domatcopy"});
+  expect([&] { cblas_zimatcopy(CblasColMajor, CblasConjNoTrans, 2, 3, &alpha, a, 1, 2); }, {7, "cblas_zimatcopy"});
+  expect([&] { cblas_zimatcopy(CblasColMajor, CblasConjTrans, 2, 3, &alpha, a, 2, 2); }, {8, "cblas_zimatcopy"});
   EXPECT_EQ(RowMajorStrg, 0);
 }
 

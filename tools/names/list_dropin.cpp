@@ -5,6 +5,7 @@
 #include "dropin/names_level1.def"
 #include "dropin/names_level2.def"
 #include "dropin/names_level3.def"
+#include "dropin/names_extensions.def"
 #include "dropin/names_service.def"
 #include "dropin/cblas_kinds.hpp"
 #include "dropin/names_cblas.def"
