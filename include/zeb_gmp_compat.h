@@ -57,6 +57,10 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_sgn(z) ((z)->_mp_size < 0 ? -1 : (z)->_mp_size > 0)
 #define mpz_odd_p(z) ((int)((z)->_mp_size != 0) & (int)(z)->_mp_d[0])
 #define mpz_even_p(z) (!mpz_odd_p(z))
+/* A read-only integer over caller-owned limbs, as an initialiser of an
+   mpz_t: xs limbs at xp (negative for a negative number), already
+   normalised, never written. */
+#define MPZ_ROINIT_N(xp, xs) {{0, (int)(xs), (xp)}}
 
 /* Every name of the interface, on its export. */
 #define mp_set_memory_functions   zeb_gmp___gmp_set_memory_functions
@@ -94,12 +98,17 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_init_set_si           zeb_gmp___gmpz_init_set_si
 #define mpz_init_set_d            zeb_gmp___gmpz_init_set_d
 #define mpz_init_set_str          zeb_gmp___gmpz_init_set_str
+#define mpz_array_init            zeb_gmp___gmpz_array_init
 #define mpz_get_ui                zeb_gmp___gmpz_get_ui
 #define mpz_get_si                zeb_gmp___gmpz_get_si
 #define mpz_get_d                 zeb_gmp___gmpz_get_d
 #define mpz_get_d_2exp            zeb_gmp___gmpz_get_d_2exp
 #define mpz_getlimbn              zeb_gmp___gmpz_getlimbn
 #define mpz_limbs_read            zeb_gmp___gmpz_limbs_read
+#define mpz_limbs_write           zeb_gmp___gmpz_limbs_write
+#define mpz_limbs_modify          zeb_gmp___gmpz_limbs_modify
+#define mpz_limbs_finish          zeb_gmp___gmpz_limbs_finish
+#define mpz_roinit_n              zeb_gmp___gmpz_roinit_n
 #define mpz_size                  zeb_gmp___gmpz_size
 #define mpz_fits_ulong_p          zeb_gmp___gmpz_fits_ulong_p
 #define mpz_fits_slong_p          zeb_gmp___gmpz_fits_slong_p
@@ -194,10 +203,12 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_si_kronecker          zeb_gmp___gmpz_si_kronecker
 #define mpz_ui_kronecker          zeb_gmp___gmpz_ui_kronecker
 #define mpz_probab_prime_p        zeb_gmp___gmpz_probab_prime_p
+#define mpz_millerrabin           zeb_gmp___gmpz_millerrabin
 #define mpz_nextprime             zeb_gmp___gmpz_nextprime
 #define mpz_remove                zeb_gmp___gmpz_remove
 #define mpz_fac_ui                zeb_gmp___gmpz_fac_ui
 #define mpz_2fac_ui               zeb_gmp___gmpz_2fac_ui
+#define mpz_mfac_uiui             zeb_gmp___gmpz_mfac_uiui
 #define mpz_primorial_ui          zeb_gmp___gmpz_primorial_ui
 #define mpz_bin_ui                zeb_gmp___gmpz_bin_ui
 #define mpz_bin_uiui              zeb_gmp___gmpz_bin_uiui

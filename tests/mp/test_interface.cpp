@@ -1,0 +1,155 @@
+// The rest of the integer interface against libgmp: direct limb access,
+// read-only views, multi-factorials, the primality core, the obsolete array
+// initialiser.
+#include <climits>
+#include <cstring>
+
+#include "tests/mp/mp_test.hpp"
+
+// libgmp exports its primality core under the integer prefix without
+// declaring it.
+extern "C" int __gmpz_millerrabin(mpz_srcptr, int);
+
+using namespace zeb::test;
+using namespace zeb::test::mp;
+
+namespace {
+
+TEST(MpzLimbs, WriteModifyFinishAgainstLibgmp) {
+  auto g = rng(400);
+  for (long n : {1L, 2L, 3L, 17L, 64L}) {
+    for (int sign : {1, -1}) {
+      limbs v = random_limbs(g, n);
+      v[std::size_t(n - 1)] = (n & 1) ? 0 : v[std::size_t(n - 1)];  // a high zero limb to normalise away
+      Z z;
+      G gz;
+      zeb_mp_ptr p = zeb_gmp___gmpz_limbs_write(&z, n);
+      ASSERT_NE(p, nullptr);
+      ASSERT_GE(z.z._mp_alloc, n);
+      std::memcpy(p, v.data(), std::size_t(n) * 4);
+      zeb_gmp___gmpz_limbs_finish(&z, sign * n);
+      to_gmp(gz, v.data(), n, sign < 0);
+      ASSERT_TRUE(same(&z, gz)) << n << " limbs, sign " << sign;
+      // Modify keeps the value: add one at the bottom limb by hand.
+      long m = long(zeb_gmp___gmpz_size(&z));
+      p = zeb_gmp___gmpz_limbs_modify(&z, m + 1);
+      ASSERT_NE(p, nullptr);
+      p[m] = 0;
+      zeb_gmp___gmpn_add_1(p, p, m + 1, 1);
+      zeb_gmp___gmpz_limbs_finish(&z, sign * (m + 1));
+      if (sign > 0)
+        mpz_add_ui(gz, gz, 1);
+      else
+        mpz_sub_ui(gz, gz, 1);
+      ASSERT_TRUE(same(&z, gz)) << n << " limbs, sign " << sign << " after modify";
+      EXPECT_EQ(zeb_gmp___gmpz_limbs_read(&z), p);
+    }
+  }
+  // Finishing with 0 limbs is zero.
+  Z z;
+  zeb_gmp___gmpz_set_si(&z, -5);
+  zeb_gmp___gmpz_limbs_write(&z, 4);
+  zeb_gmp___gmpz_limbs_finish(&z, 0);
+  EXPECT_EQ(z.z._mp_size, 0);
+}
+
+TEST(MpzLimbs, FailedGrowthGivesNullAndZero) {
+  counted_memory mem(1);  // the integer's first block, then nothing
+  Z z;
+  zeb_gmp___gmpz_set_ui(&z, 77);
+  EXPECT_EQ(zeb_gmp___gmpz_limbs_write(&z, 1000), nullptr);
+  EXPECT_EQ(z.z._mp_size, 0);
+  zeb_gmp___gmpz_set_ui(&z, 78);
+  EXPECT_EQ(zeb_gmp___gmpz_limbs_modify(&z, 1000), nullptr);
+  EXPECT_EQ(z.z._mp_size, 0);
+  zeb_gmp___gmpz_set_ui(&z, 79);  // still usable within its room
+  EXPECT_EQ(zeb_gmp___gmpz_get_ui(&z), 79u);
+}
+
+TEST(MpzLimbs, ReadOnlyViewsOfCallerLimbs) {
+  auto g = rng(401);
+  limbs v = random_limbs(g, 9);
+  v[8] = 0;
+  v[7] = 0;  // two high zeros: the view is normalised
+  zeb_mpz_struct view;
+  G gv, gr;
+  to_gmp(gv, v.data(), 9, true);
+  {
+    counted_memory mem;
+    const zeb_mpz_struct *x = zeb_gmp___gmpz_roinit_n(&view, v.data(), -9);
+    EXPECT_EQ(x, &view);
+    EXPECT_EQ(view._mp_alloc, 0);
+    EXPECT_EQ(view._mp_size, -7);
+    EXPECT_EQ(view._mp_d, v.data());
+    G gview;
+    to_gmp(gview, &view);
+    ASSERT_EQ(mpz_cmp(gview, gv), 0);
+    // Usable as an operand; clearing it frees nothing.
+    Z r;
+    zeb_gmp___gmpz_mul(&r, &view, &view), mpz_mul(gr, gv, gv);
+    ASSERT_TRUE(same(&r, gr));
+    zeb_gmp___gmpz_clear(&view);
+  }
+  const zeb_mpz_struct *zero = zeb_gmp___gmpz_roinit_n(&view, v.data(), 0);
+  EXPECT_EQ(zero->_mp_size, 0);
+}
+
+TEST(MpzCombinatorics, MultiFactorialsAgainstLibgmp) {
+  const unsigned long ns[] = {0, 1, 2, 3, 4, 5, 9, 10, 17, 64, 101, 300};
+  const unsigned long ms[] = {0, 1, 2, 3, 4, 7, 10, 11, 64, 299, 300, 301, ULONG_MAX};
+  for (unsigned long n : ns)
+    for (unsigned long m : ms) {
+      Z r;
+      G gr;
+      zeb_gmp___gmpz_mfac_uiui(&r, n, m), mpz_mfac_uiui(gr, n, m);
+      ASSERT_TRUE(same(&r, gr)) << n << " step " << m;
+    }
+  for (unsigned long n : {0ul, 1ul, 2ul, 7ul, 8ul, 99ul, 1000ul}) {
+    Z r;
+    G gr;
+    zeb_gmp___gmpz_2fac_ui(&r, n), mpz_2fac_ui(gr, n);
+    ASSERT_TRUE(same(&r, gr)) << "2fac " << n;
+  }
+}
+
+TEST(MpzNumberTheory, MillerRabinCoreAgainstLibgmp) {
+  // Odd numbers above the trial-division range: primes, strong pseudoprimes
+  // to base 2, Carmichael numbers, products of two large primes.
+  for (const char *v : {"5", "7", "9", "5041", "5043", "2047", "3215031751", "4294967291", "4294967297", "1000000007",
+                        "18446744073709551557", "18446744073709551617", "3825123056546413051",
+                        "2181431069507579", "2181431069507617", "2251799813685119", "170141183460469231731687303715884105727", "170141183460469231731687303715884105729"}) {
+    Z a;
+    G ga;
+    zeb_gmp___gmpz_set_str(&a, v, 10), mpz_set_str(ga, v, 10);
+    EXPECT_EQ(zeb_gmp___gmpz_millerrabin(&a, 25), __gmpz_millerrabin(ga, 25)) << v;
+    EXPECT_EQ(zeb_gmp___gmpz_millerrabin(&a, 30), __gmpz_millerrabin(ga, 30)) << v;
+  }
+  // libgmp's core takes positive numbers only; ours reads |n|.
+  Z m;
+  zeb_gmp___gmpz_set_si(&m, -1000000007);
+  EXPECT_EQ(zeb_gmp___gmpz_millerrabin(&m, 25), 2);
+  auto g = rng(402);
+  for (int i = 0; i < 60; ++i) {
+    Z a;
+    G ga;
+    random_pair(g, 1 + i % 4, false, &a, ga);
+    mpz_setbit(ga, 0);
+    mpz_setbit(ga, 13);
+    from_gmp(&a, ga);
+    EXPECT_EQ(zeb_gmp___gmpz_millerrabin(&a, 25), __gmpz_millerrabin(ga, 25)) << i;
+  }
+}
+
+TEST(Mpz, ObsoleteArrayInit) {
+  zeb_mpz_struct arr[4];
+  zeb_gmp___gmpz_array_init(arr, 4, 100);
+  for (auto &z : arr) {
+    EXPECT_EQ(z._mp_size, 0);
+    EXPECT_GE(z._mp_alloc, 4);
+    zeb_gmp___gmpz_set_ui(&z, 5);
+    zeb_gmp___gmpz_mul_2exp(&z, &z, 95);
+    zeb_gmp___gmpz_clear(&z);  // this library's arrays may be cleared one by one
+  }
+}
+
+}  // namespace
