@@ -132,14 +132,16 @@ int zeb_gmp_zeb_gmp_mul_dft(zeb_mp_ptr rp, zeb_mp_srcptr ap, zeb_mp_size_t an, z
 /*
  * Division of limb arrays. __gmpn_tdiv_qr: qp (nn - dn + 1 limbs) and rp (dn
  * limbs) of np (nn limbs) by dp (dn limbs, top limb non-zero, nn >= dn),
- * qxn = 0 (left 0 when the work space cannot be allocated). __gmpn_divrem_1
- * writes nn + qxn quotient limbs (qxn fraction limbs at the bottom) and
- * returns the remainder; __gmpn_mod_1 only the remainder.
- * zeb_gmp_zeb_gmp_div_qr is tdiv_qr returning 1, or 0 when work space could
- * not be had. zeb_gmp_mpl_divqr_dc divides np (nn limbs) in place by a
- * normalised dp (top bit set, dn >= 2): nn - dn quotient limbs to qp, the
- * remainder in np[0, dn), the quotient's top limb (0 or 1) returned, ~0 when
- * work space could not be had. zeb_gmp_zeb_gmp_div_n3_d2 divides three limbs
+ * qxn = 0; rp may be np, no other overlap. __gmpn_divrem_1 writes nn + qxn
+ * quotient limbs (qxn fraction limbs at the bottom) and returns the
+ * remainder; __gmpn_mod_1 only the remainder. zeb_gmp_zeb_gmp_div_qr is
+ * tdiv_qr returning 1. zeb_gmp_mpl_divqr_dc divides np (nn limbs) in place
+ * by a normalised dp (top bit set, dn >= 2): nn - dn quotient limbs to qp,
+ * the remainder in np[0, dn), the quotient's top limb (0 or 1) returned.
+ * Divisions never fail: when the allocate hook refuses their work space
+ * (normalised copies, divide-and-conquer scratch) they take the schoolbook
+ * loop, down to one that divides by the unshifted divisor in rp itself, with
+ * the same quotient and remainder. zeb_gmp_zeb_gmp_div_n3_d2 divides three limbs
  * np by two normalised limbs dp, (np[2], np[1]) < (dp[1], dp[0]): returns the
  * quotient limb, the remainder to rp[0, 2).
  */

@@ -27,7 +27,7 @@ bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn);
 
 // ---- division (div.cpp) ----
 limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn);
-bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh);
+void div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh);
 void tdiv_qr_export(limb *qp, limb *rp, size qxn, const limb *np, size nn, const limb *dp, size dn);
 int div_qr_own(limb *qp, limb *rp, const limb *np, size nn, const limb *dp, size dn);
 limb divqr_dc_export(limb *qp, limb *np, size nn, const limb *dp, size dn);

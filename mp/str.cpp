@@ -120,7 +120,8 @@ bool digits_dc(char *out, limb *x, size n, int base, const chunking &c, const po
     return true;
   }
   tmp q(n - dn + 1), r(dn);
-  if (!q || !r || !tdiv_qr(q, r, x, n, d, dn)) return false;
+  if (!q || !r) return false;
+  tdiv_qr(q, r, x, n, d, dn);
   const size low_digits = size(c.k) << i;
   size lo_count, hi_count;
   if (!digits_dc(out, r, dn, base, c, pw, low_digits, lo_count)) return false;

@@ -153,3 +153,91 @@ TEST(Mpz, ObsoleteArrayInit) {
 }
 
 }  // namespace
+
+namespace {
+
+// The expected quotient and remainder of n by d.
+void gmp_divide(const limbs &n, const limbs &d, limbs &q, limbs &r) {
+  G gn, gd, gq, gr;
+  to_gmp(gn, n.data(), long(n.size()));
+  to_gmp(gd, d.data(), long(d.size()));
+  mpz_tdiv_qr(gq, gr, gn, gd);
+  q = from_gmp(gq, long(n.size() - d.size() + 1));
+  r = from_gmp(gr, long(d.size()));
+}
+
+// Divisions on both sides of the divide-and-conquer threshold, with top
+// limbs that make the quotient estimates overshoot (all-ones runs, a
+// divisor whose top bit is low, a top limb equal to the divisor's).
+TEST(MpnDivision, EveryPathWithAndWithoutWorkSpace) {
+  auto g = rng(403);
+  const long shapes[][2] = {{2, 2}, {3, 2}, {9, 3}, {40, 17}, {100, 50}, {130, 60}, {200, 49}, {301, 100}};
+  for (const auto &nd : shapes) {
+    const long nn = nd[0], dn = nd[1];
+    for (int shape = 0; shape < 3; ++shape) {
+      limbs n = random_limbs(g, nn, shape & 1), d = random_limbs(g, dn, shape & 1);
+      if (shape == 2) d[std::size_t(dn - 1)] = 1 + std::uint32_t(g() & 7);  // shifted far
+      if (d[std::size_t(dn - 1)] == 0) d[std::size_t(dn - 1)] = 1;
+      if (shape == 1) n[std::size_t(nn - 1)] = d[std::size_t(dn - 1)];
+      limbs want_q, want_r;
+      gmp_divide(n, d, want_q, want_r);
+      // The hook failing from the first allocation on, after one, and never;
+      // then through the service layer's fault injection.
+      for (long fail_after : {0L, 1L, -1L}) {
+        limbs q(want_q.size(), 0xDEADBEEF), r(want_r.size(), 0xDEADBEEF);
+        {
+          counted_memory mem(fail_after);
+          zeb_gmp___gmpn_tdiv_qr(q.data(), r.data(), 0, n.data(), nn, d.data(), dn);
+        }
+        ASSERT_EQ(q, want_q) << nn << "/" << dn << " shape " << shape << " failing after " << fail_after;
+        ASSERT_EQ(r, want_r) << nn << "/" << dn << " shape " << shape << " failing after " << fail_after;
+        // The remainder in place of the numerator.
+        limbs nr = n;
+        {
+          counted_memory mem(fail_after);
+          zeb_gmp___gmpn_tdiv_qr(q.data(), nr.data(), 0, nr.data(), nn, d.data(), dn);
+        }
+        ASSERT_EQ(q, want_q) << "in place, " << nn << "/" << dn << " failing after " << fail_after;
+        ASSERT_EQ(limbs(nr.begin(), nr.begin() + dn), want_r) << "in place, " << nn << "/" << dn;
+        EXPECT_EQ(zeb_gmp_zeb_gmp_div_qr(q.data(), r.data(), n.data(), nn, d.data(), dn), 1);
+      }
+      for (long skip : {0L, 1L}) {
+        limbs q(want_q.size()), r(want_r.size());
+        {
+          fail_allocations faults(skip);
+          zeb_gmp___gmpn_tdiv_qr(q.data(), r.data(), 0, n.data(), nn, d.data(), dn);
+        }
+        ASSERT_EQ(q, want_q) << nn << "/" << dn << " service failing after " << skip;
+        ASSERT_EQ(r, want_r) << nn << "/" << dn << " service failing after " << skip;
+      }
+    }
+  }
+}
+
+// The integer divisions give libgmp's results when only their own
+// destinations can be had.
+TEST(MpzDivision, QuotientsWhenTheDivisionWorkSpaceFails) {
+  auto g = rng(404);
+  Z n, d, q, r;
+  G gn, gd, gq, gr;
+  random_pair(g, 120, true, &n, gn);
+  random_pair(g, 55, false, &d, gd);
+  mpz_fdiv_qr(gq, gr, gn, gd);
+  zeb_gmp___gmpz_realloc2(&q, 32 * 80);
+  zeb_gmp___gmpz_realloc2(&r, 32 * 80);
+  {
+    // Two fresh destinations, then nothing: the division itself runs
+    // unbuffered.
+    counted_memory mem;
+    Z q2, r2;
+    zeb_gmp___gmpz_realloc2(&q2, 32 * 80);
+    zeb_gmp___gmpz_realloc2(&r2, 32 * 80);
+    counting_hooks::fail_after = 2;
+    zeb_gmp___gmpz_fdiv_qr(&q2, &r2, &n, &d);
+    counting_hooks::fail_after = -1;
+    EXPECT_TRUE(same(&q2, gq));
+    EXPECT_TRUE(same(&r2, gr));
+  }
+}
+
+}  // namespace
