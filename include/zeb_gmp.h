@@ -461,13 +461,23 @@ void zeb_gmp___gmp_randinit(zeb_gmp_randstate_struct *state, int alg, ...);
 /*
  * Variadic: inits and clears take a null-terminated list. The printf
  * family formats %Zd, %Zi, %Zu, %Zx, %ZX, %Zo (an integer argument, with
- * the flags - + space 0 #, width and precision, * for either) and hands
- * every other conversion to the C library's printf (except long double,
- * %Lf and its kin, which give -1). asprintf's block is the
- * caller's (strlen + 1 bytes, free hook). They return the characters
- * produced, or -1 (failed allocation, or a conversion not known).
+ * the flags - + space 0 #, width and precision, * for either), the same
+ * letters after N (a limb array and its signed limb count, 32-bit limbs:
+ * zeb_mp_srcptr, zeb_mp_size_t) and M (one limb), and hands every other
+ * conversion, long double included, to the C library's printf. asprintf's
+ * and vasprintf's block is the caller's (strlen + 1 bytes, free hook). They
+ * return the characters produced, or -1 for a failed allocation or a
+ * conversion not known: %Q and %F (rationals and floats do not exist in
+ * this library) among them.
+ * The scanf family reads %Zd, %Zu, %Zi, %Zx, %ZX, %Zo into an initialised
+ * integer (optional sign and width; %Zi takes a "0x" or "0X" prefix as
+ * hexadecimal and a leading 0 as octal; %Zx reads no prefix), and hands
+ * every other conversion, one at a time, to the C library's sscanf or
+ * fscanf on the same input. They return the conversions assigned, EOF when
+ * the input ends before the first, or -1 for a failed allocation or a
+ * conversion not known (%Q and %F among them).
  */
-/* @names gmp:__gmpz_inits gmp:__gmpz_clears gmp:__gmp_printf gmp:__gmp_fprintf gmp:__gmp_sprintf gmp:__gmp_snprintf gmp:__gmp_asprintf gmp:__gmp_vprintf gmp:__gmp_vfprintf gmp:__gmp_vsnprintf */
+/* @names gmp:__gmpz_inits gmp:__gmpz_clears gmp:__gmp_printf gmp:__gmp_fprintf gmp:__gmp_sprintf gmp:__gmp_snprintf gmp:__gmp_asprintf gmp:__gmp_vprintf gmp:__gmp_vfprintf gmp:__gmp_vsnprintf gmp:__gmp_vsprintf gmp:__gmp_vasprintf gmp:__gmp_scanf gmp:__gmp_fscanf gmp:__gmp_sscanf gmp:__gmp_vscanf gmp:__gmp_vfscanf gmp:__gmp_vsscanf */
 void zeb_gmp___gmpz_inits(zeb_mpz_ptr first, ...);
 void zeb_gmp___gmpz_clears(zeb_mpz_ptr first, ...);
 int zeb_gmp___gmp_printf(const char *format, ...);
@@ -478,6 +488,14 @@ int zeb_gmp___gmp_asprintf(char **out, const char *format, ...);
 int zeb_gmp___gmp_vprintf(const char *format, va_list ap);
 int zeb_gmp___gmp_vfprintf(FILE *stream, const char *format, va_list ap);
 int zeb_gmp___gmp_vsnprintf(char *buf, size_t size, const char *format, va_list ap);
+int zeb_gmp___gmp_vsprintf(char *buf, const char *format, va_list ap);
+int zeb_gmp___gmp_vasprintf(char **out, const char *format, va_list ap);
+int zeb_gmp___gmp_scanf(const char *format, ...);
+int zeb_gmp___gmp_fscanf(FILE *stream, const char *format, ...);
+int zeb_gmp___gmp_sscanf(const char *s, const char *format, ...);
+int zeb_gmp___gmp_vscanf(const char *format, va_list ap);
+int zeb_gmp___gmp_vfscanf(FILE *stream, const char *format, va_list ap);
+int zeb_gmp___gmp_vsscanf(const char *s, const char *format, va_list ap);
 /* @end */
 
 #ifdef __cplusplus

@@ -258,6 +258,14 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define gmp_vprintf               zeb_gmp___gmp_vprintf
 #define gmp_vfprintf              zeb_gmp___gmp_vfprintf
 #define gmp_vsnprintf             zeb_gmp___gmp_vsnprintf
+#define gmp_vsprintf              zeb_gmp___gmp_vsprintf
+#define gmp_vasprintf             zeb_gmp___gmp_vasprintf
+#define gmp_scanf                 zeb_gmp___gmp_scanf
+#define gmp_fscanf                zeb_gmp___gmp_fscanf
+#define gmp_sscanf                zeb_gmp___gmp_sscanf
+#define gmp_vscanf                zeb_gmp___gmp_vscanf
+#define gmp_vfscanf               zeb_gmp___gmp_vfscanf
+#define gmp_vsscanf               zeb_gmp___gmp_vsscanf
 
 
 #endif

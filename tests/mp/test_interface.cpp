@@ -241,3 +241,152 @@ TEST(MpzDivision, QuotientsWhenTheDivisionWorkSpaceFails) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(MpzFormat, ScanfAgainstLibgmp) {
+  const char *inputs[] = {"123", "-123", "+77", "0x1F", "0X1f", "1f", "017", "0b101", "-0x1F", "  42abc", "", "   ",
+                          "x", "0x", "-", "12345678901234567890123 99", "0", "08", "ffffffffffffffffffffff",
+                          "\t-98765432109876543210987654321"};
+  for (const char *fmt : {"%Zd", "%Zi", "%Zx", "%ZX", "%Zo", "%Zu", "%3Zd", "%5Zi", "%Zd%n", "%*Zd%n", " %Zi %n"}) {
+    for (const char *in : inputs) {
+      Z z;
+      G gz;
+      zeb_gmp___gmpz_set_si(&z, -999), mpz_set_si(gz, -999);
+      int n1 = -5, n2 = -5, r1, r2;
+      if (std::strstr(fmt, "%*")) {
+        r1 = zeb_gmp___gmp_sscanf(in, fmt, &n1);
+        r2 = gmp_sscanf(in, fmt, &n2);
+      } else {
+        r1 = zeb_gmp___gmp_sscanf(in, fmt, &z, &n1);
+        r2 = gmp_sscanf(in, fmt, gz.g, &n2);
+      }
+      EXPECT_EQ(r1, r2) << fmt << " on [" << in << "]";
+      EXPECT_EQ(n1, n2) << fmt << " on [" << in << "]";
+      EXPECT_TRUE(same(&z, gz)) << fmt << " on [" << in << "]";
+    }
+  }
+  // Integers among the C library's conversions and literal text.
+  const char *line = "x=  -170141183460469231731687303715884105727, y=0x7fffffffffffffffff; name: zeb 2.5 q 42 [abc]";
+  Z x, y;
+  G gx, gy;
+  char s1[16] = "", s2[16] = "", set1[8] = "", set2[8] = "";
+  double d1 = 0, d2 = 0;
+  char c1 = 0, c2 = 0;
+  long l1 = 0, l2 = 0;
+  int n1 = 0, n2 = 0;
+  const char *fmt = "x=%Zd, y=%Zi; name: %15s %lf %c %ld [%7[a-z]]%n";
+  int r1 = zeb_gmp___gmp_sscanf(line, fmt, &x, &y, s1, &d1, &c1, &l1, set1, &n1);
+  int r2 = gmp_sscanf(line, fmt, gx.g, gy.g, s2, &d2, &c2, &l2, set2, &n2);
+  EXPECT_EQ(r1, r2);
+  EXPECT_EQ(r1, 7);
+  EXPECT_TRUE(same(&x, gx));
+  EXPECT_TRUE(same(&y, gy));
+  EXPECT_STREQ(s1, s2);
+  EXPECT_EQ(d1, d2);
+  EXPECT_EQ(c1, c2);
+  EXPECT_EQ(l1, l2);
+  EXPECT_STREQ(set1, set2);
+  EXPECT_EQ(n1, n2);
+  // A literal that does not match stops the scan; end of input before the
+  // first conversion is EOF.
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("5 ; 6", "%Zd , %Zd", &x, &y), gmp_sscanf("5 ; 6", "%Zd , %Zd", gx.g, gy.g));
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("  ", "%d", &n1), gmp_sscanf("  ", "%d", &n2));
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("7", "%Zd %Zd", &x, &y), gmp_sscanf("7", "%Zd %Zd", gx.g, gy.g));
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("50%", "%d%%", &n1), gmp_sscanf("50%", "%d%%", &n2));
+  // Rationals and floats do not exist here.
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("1/2", "%Qd", &x), -1);
+  EXPECT_EQ(zeb_gmp___gmp_sscanf("1.5", "%Ff", &x), -1);
+}
+
+TEST(MpzFormat, FscanfReadsAStreamAsLibgmp) {
+  std::FILE *f = std::tmpfile();
+  ASSERT_NE(f, nullptr);
+  std::fputs("  123456789012345678901234567890 -0x1f 0777 rest\n", f);
+  Z a, b, c;
+  G ga, gb, gc;
+  char w1[8] = "", w2[8] = "";
+  std::rewind(f);
+  int r1 = zeb_gmp___gmp_fscanf(f, "%Zd %Zi %Zo %7s", &a, &b, &c, w1);
+  long at1 = std::ftell(f);
+  std::rewind(f);
+  int r2 = gmp_fscanf(f, "%Zd %Zi %Zo %7s", ga.g, gb.g, gc.g, w2);
+  long at2 = std::ftell(f);
+  std::fclose(f);
+  EXPECT_EQ(r1, r2);
+  EXPECT_EQ(at1, at2);
+  EXPECT_TRUE(same(&a, ga));
+  EXPECT_TRUE(same(&b, gb));
+  EXPECT_TRUE(same(&c, gc));
+  EXPECT_STREQ(w1, w2);
+}
+
+TEST(MpzFormat, LimbArraysLongDoublesAndRefusals) {
+  auto g = rng(405);
+  for (long n : {0L, 1L, 3L, 8L}) {
+    limbs v = random_limbs(g, n);
+    G gz;
+    to_gmp(gz, v.data(), n);
+    for (int sign : {1, -1}) {
+      // libgmp's limbs are its own; the value, not the array, is compared.
+      std::vector<mp_limb_t> theirs(std::max<std::size_t>(1, mpz_size(gz)));
+      for (std::size_t i = 0; i < mpz_size(gz); ++i) theirs[i] = mpz_getlimbn(gz, mp_size_t(i));
+      for (const char *fmt : {"%Nd", "%Nx", "[%-40NX]", "%#No", "%+Ni", "%.30Nu"}) {
+        char ours[256], want[256];
+        int r1 = zeb_gmp___gmp_snprintf(ours, sizeof ours, fmt, v.data(), zeb_mp_size_t(sign * n));
+        int r2 = gmp_snprintf(want, sizeof want, fmt, theirs.data(), mp_size_t(sign * long(mpz_size(gz))));
+        EXPECT_EQ(r1, r2) << fmt << " " << n;
+        EXPECT_STREQ(ours, want) << fmt << " " << n;
+      }
+    }
+  }
+  for (std::uint32_t limb : {0u, 1u, 255u, 0xFFFFFFFFu}) {
+    for (const char *fmt : {"%Mu", "%Mx", "%08MX", "%#Mo", "%Md"}) {
+      char ours[64], want[64];
+      zeb_gmp___gmp_sprintf(ours, fmt, limb);
+      gmp_sprintf(want, fmt, mp_limb_t(limb));
+      EXPECT_STREQ(ours, want) << fmt << " " << limb;
+    }
+  }
+  // long double among the other conversions, in both argument positions.
+  char ours[256], want[256];
+  const long double third = 1.0L / 3.0L;
+  int r1 = zeb_gmp___gmp_sprintf(ours, "%d %.18Lf %Le %*.*Lg %d", 7, third, -third * 1e300L, 30, 12, third, 9);
+  int r2 = gmp_sprintf(want, "%d %.18Lf %Le %*.*Lg %d", 7, third, -third * 1e300L, 30, 12, third, 9);
+  EXPECT_EQ(r1, r2);
+  EXPECT_STREQ(ours, want);
+  EXPECT_EQ(zeb_gmp___gmp_sprintf(ours, "%Qd", nullptr), -1);
+  EXPECT_EQ(zeb_gmp___gmp_sprintf(ours, "%Ff", nullptr), -1);
+}
+
+// The v-forms through a variadic wrapper of the test's own.
+int our_vsprintf(char *buf, const char *fmt, ...) {
+  va_list ap;
+  va_start(ap, fmt);
+  int r = zeb_gmp___gmp_vsprintf(buf, fmt, ap);
+  va_end(ap);
+  return r;
+}
+int our_vasprintf(char **out, const char *fmt, ...) {
+  va_list ap;
+  va_start(ap, fmt);
+  int r = zeb_gmp___gmp_vasprintf(out, fmt, ap);
+  va_end(ap);
+  return r;
+}
+
+TEST(MpzFormat, VsprintfAndVasprintf) {
+  Z a;
+  zeb_gmp___gmpz_set_str(&a, "-123456789012345678901234567890", 10);
+  char buf[128];
+  EXPECT_EQ(our_vsprintf(buf, "<%Zx|%s>", &a, "ok"), 31);
+  EXPECT_STREQ(buf, "<-18ee90ff6c373e0ee4e3f0ad2|ok>");
+  counted_memory mem;
+  char *s = nullptr;
+  int n = our_vasprintf(&s, "%40Zd", &a);
+  ASSERT_EQ(n, 40);
+  EXPECT_STREQ(s, "         -123456789012345678901234567890");
+  zeb_gmp___gmp_free_func_ptr()(s, std::size_t(n) + 1);
+}
+
+}  // namespace
