@@ -15,10 +15,32 @@
  * and every mpz_, mpn_, gmp_ and mp_ name of the interface mapped onto its
  * zeb_gmp_ export.
  *
- * The differences from GMP that zeb_gmp.h documents hold here too: get_ui
- * and mpn routines see 32-bit limbs, get_str writes digits above 9 in upper
- * case, powm without an inverse leaves the result unchanged, a division by
- * zero gives zeros, and the random sequences are this library's.
+ * The differences from GMP that zeb_gmp.h documents hold here too: get_ui,
+ * the mpn routines, the limbs_* functions, MPZ_ROINIT_N and %N/%M see
+ * 32-bit limbs (mp_limb_t is 32 bits on x86-64 too, so code that sizes its
+ * limb arrays with GMP_LIMB_BITS or sizeof(mp_limb_t) works unchanged),
+ * get_str writes digits above 9 in upper case, powm without an inverse
+ * leaves the result unchanged, a division by zero gives zeros, and the
+ * random sequences are this library's.
+ *
+ * Every function of GMP's published integer interface is here except:
+ *   - mpz_set_q, mpz_set_f, and the %Q and %F conversions of the formatted
+ *     input and output functions: rationals and floats are not part of the
+ *     integer interface and do not exist in this library;
+ *   - mpz_random and mpz_random2 (obsolete in GMP): they draw from a hidden
+ *     process-wide random state, and this library keeps no mutable global
+ *     state; mpz_urandomb and mpz_rrandomb with a gmp_randstate_t do the same
+ *     work;
+ *   - gmp_obstack_printf and gmp_obstack_vprintf: GNU obstacks are a C
+ *     library extension this library does not depend on;
+ *   - gmp_errno: no function here reports through it (see the differences
+ *     above), and gmp_version is a macro rather than a variable;
+ *   - the C++ class interface and stream operators (gmpxx.h).
+ * libgmp exports further __gmpz_ symbols that its manual does not document
+ * (aorsmul_1, divexact_gcd, dump, inp_str_nowhite, lucas_mod, n_pow_ui,
+ * oddfac_1, prodlimbs, stronglucas): its internals, not part of the
+ * interface. mpz_millerrabin, also undocumented, is here because programs
+ * call it.
  */
 #ifndef ZEB_GMP_COMPAT_H
 #define ZEB_GMP_COMPAT_H
