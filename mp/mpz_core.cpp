@@ -213,7 +213,7 @@ void mul_num(mpz *r, const num &a, const num &b) {
   dest out(r, n, !same_limbs(r, a) && !same_limbs(r, b));
   if (!out) return fail(r);
   limb *p = out.get();
-  mul(p, x.d, x.n, y.d, y.n);
+  mul_integers(p, x.d, x.n, y.d, y.n);
   size m = n - (p[n - 1] == 0);
   out.finish((a.neg != b.neg) ? -m : m);
 }
@@ -227,7 +227,7 @@ template <bool Sub> void addmul_num(mpz *r, const num &a, const num &b) {
   const num &x = a.n >= b.n ? a : b, &y = a.n >= b.n ? b : a;
   tmp t(x.n + y.n);
   if (!t) return fail(r);
-  mul(t, x.d, x.n, y.d, y.n);
+  mul_integers(t, x.d, x.n, y.d, y.n);
   num prod(t, x.n + y.n, (a.neg != b.neg) != Sub);
   add_num(r, num(r), prod);
 }

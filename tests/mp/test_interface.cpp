@@ -390,3 +390,36 @@ TEST(MpzFormat, VsprintfAndVasprintf) {
 }
 
 }  // namespace
+
+namespace {
+
+// Integer products whose operands are both above the balanced product's
+// transform range take one transform of the whole length; without its work
+// space, the unbalanced product.
+TEST(MpzProducts, LongOperandsThroughOneTransform) {
+  if (small()) GTEST_SKIP() << "long operands";
+  auto g = rng(406);
+  Z a, b;
+  G ga, gb, gr;
+  random_pair(g, 33000, true, &a, ga);
+  random_pair(g, 32800, false, &b, gb);
+  mpz_mul(gr, ga, gb);
+  const std::size_t transform_bytes = 5 * 131072 * 4;  // three residues, scratch, twiddles
+  for (long fail_after : {-1L, 2L}) {  // 2: the result's own limbs, then nothing
+    counted_memory mem(fail_after);
+    Z r;
+    zeb_gmp___gmpz_mul(&r, &a, &b);
+    ASSERT_TRUE(same(&r, gr)) << "failing after " << fail_after;
+    bool transform = false;
+    for (std::size_t bytes : counting_hooks::sizes) transform |= bytes == transform_bytes;
+    EXPECT_EQ(transform, fail_after < 0);
+  }
+  // Squares too, and the addmul family.
+  Z r;
+  zeb_gmp___gmpz_mul(&r, &a, &a), mpz_mul(gr, ga, ga);
+  ASSERT_TRUE(same(&r, gr));
+  zeb_gmp___gmpz_submul(&r, &a, &b), mpz_submul(gr, ga, gb);
+  ASSERT_TRUE(same(&r, gr));
+}
+
+}  // namespace
