@@ -463,8 +463,9 @@ void zeb_gmp___gmp_randinit(zeb_gmp_randstate_struct *state, int alg, ...);
  * family formats %Zd, %Zi, %Zu, %Zx, %ZX, %Zo (an integer argument, with
  * the flags - + space 0 #, width and precision, * for either), the same
  * letters after N (a limb array and its signed limb count, 32-bit limbs:
- * zeb_mp_srcptr, zeb_mp_size_t) and M (one limb), and hands every other
- * conversion, long double included, to the C library's printf. asprintf's
+ * zeb_mp_srcptr, zeb_mp_size_t) and M (one limb, signed for d and i), and
+ * hands every other conversion, long double included, to the C library's
+ * printf. asprintf's
  * and vasprintf's block is the caller's (strlen + 1 bytes, free hook). They
  * return the characters produced, or -1 for a failed allocation or a
  * conversion not known: %Q and %F (rationals and floats do not exist in

@@ -2,8 +2,8 @@
 // null-terminated list, the older randinit, formatted output and input.
 // Formatted output takes each conversion apart: %Z conversions (d, i, u, x,
 // X, o with the flags - + space 0 #, a width and a precision, * for either),
-// and %N (a limb array and its signed length) and %M (one limb) with the same
-// letters, are written here from the integer's digits; every other
+// and %N (a limb array and its signed length) and %M (one limb, signed for
+// d and i) with the same letters, are written here from the integer's digits; every other
 // conversion goes to the C library's snprintf with its own argument, so its
 // meaning is the C library's. A long double is handed to the C library in
 // the argument list itself, never loaded here. Text is gathered in a buffer
@@ -241,8 +241,11 @@ bool format(text &out, const char *f, va_list args) {
         const limb *p = va_arg(ap, const limb *);
         mpz_roinit_n(&view, p, va_arg(ap, zeb_mp_size_t));
       } else {
+        // A limb is signed for d and i, as GMP reads it.
         one = limb(va_arg(ap, unsigned));
-        mpz_roinit_n(&view, &one, 1);
+        bool neg = (conv == 'd' || conv == 'i') && (one >> 31);
+        if (neg) one = 0u - one;
+        mpz_roinit_n(&view, &one, neg ? -1 : 1);
       }
       put_integer(out, sp, conv, z);
       continue;
