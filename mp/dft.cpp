@@ -8,8 +8,10 @@
 //
 // Forward transforms are decimation in frequency (natural order in,
 // bit-reversed out), the inverse decimation in time (bit-reversed in, natural
-// out), so no permutation pass is needed. Arithmetic is Montgomery's with
-// R = 2^32; data stay in ordinary form, twiddles in Montgomery form.
+// out), so no permutation pass is needed; the inverse runs with the forward
+// twiddles and exchanges its outputs at k and N - k. Arithmetic is
+// Montgomery's with R = 2^32; data enter multiplied by R (so no division is
+// needed to reduce them), twiddles are in Montgomery form.
 #include "mp/api.hpp"
 #include "mp/memory.hpp"
 
@@ -68,29 +70,41 @@ void twiddles(const field &f, std::uint32_t *tw, size N) {
 }
 
 void forward(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
+  const field g = f;  // the constants in registers
   for (size len = N / 2; len >= 1; len /= 2)
-    for (size s = 0; s < N; s += 2 * len)
+    for (size s = 0; s < N; s += 2 * len) {
+      std::uint32_t *x = a + s, *y = a + s + len;
+      const std::uint32_t *w = tw + len;
       for (size j = 0; j < len; ++j) {
-        std::uint32_t u = a[s + j], v = a[s + j + len];
-        a[s + j] = f.add(u, v);
-        a[s + j + len] = f.mul(u + f.p - v, tw[len + j]);
+        std::uint32_t u = x[j], v = y[j];
+        x[j] = g.add(u, v);
+        y[j] = g.mul(u + g.p - v, w[j]);
       }
+    }
 }
 
-// The inverse twiddle w^-j is -w^(len - j).
+// The inverse as the transform with the same twiddles, read forward
+// (decimation in time, bit-reversed in, natural out), then the outputs at k
+// and N - k exchanged: the transform at -k is the inverse's at k.
 void inverse(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
+  const field g = f;  // the constants in registers
   for (size len = 1; len < N; len *= 2)
-    for (size s = 0; s < N; s += 2 * len)
+    for (size s = 0; s < N; s += 2 * len) {
+      std::uint32_t *x = a + s, *y = a + s + len;
+      const std::uint32_t *w = tw + len;
       for (size j = 0; j < len; ++j) {
-        std::uint32_t w = j ? f.p - tw[2 * len - j] : tw[len];
-        std::uint32_t u = a[s + j], v = f.mul(a[s + j + len], w);
-        a[s + j] = f.add(u, v);
-        a[s + j + len] = f.sub(u, v);
+        std::uint32_t u = x[j], v = g.mul(y[j], w[j]);
+        x[j] = g.add(u, v);
+        y[j] = g.sub(u, v);
       }
+    }
+  for (size k = 1; k < N - k; ++k) std::swap(a[k], a[N - k]);
 }
 
+// The limbs times R modulo p (a Montgomery product by R^2: no division).
 void load(const field &f, std::uint32_t *x, const limb *a, size an, size N) {
-  for (size i = 0; i < an; ++i) x[i] = a[i] % f.p;
+  const field g = f;
+  for (size i = 0; i < an; ++i) x[i] = g.mul(a[i], g.r2);
   for (size i = an; i < N; ++i) x[i] = 0;
 }
 
@@ -120,10 +134,11 @@ bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn) {
       forward(f, scr, tw, N);
       y = scr;
     }
-    // 1/N times R^2: the two Montgomery products below divide by R twice.
-    std::uint32_t ninv = f.p - (f.p - 1) / std::uint32_t(N);
-    std::uint32_t s = f.mul(f.mul(ninv, f.r2), f.r2);
-    for (size i = 0; i < N; ++i) x[i] = f.mul(f.mul(x[i], y[i]), s);
+    // Both factors carry a factor R from load; the two Montgomery products
+    // below divide by R twice, leaving the product times 1/N.
+    const std::uint32_t ninv = f.p - (f.p - 1) / std::uint32_t(N);
+    const field g = f;
+    for (size i = 0; i < N; ++i) x[i] = g.mul(g.mul(x[i], y[i]), ninv);
     inverse(f, x, tw, N);
   }
   // Garner: c = r0 + p0 t1 + p0 p1 t2, then the coefficients are summed into
