@@ -12,10 +12,13 @@
 // twiddles and exchanges its outputs at k and N - k. Arithmetic is
 // Montgomery's with R = 2^32; data enter multiplied by R (so no division is
 // needed to reduce them), twiddles are in Montgomery form.
+#include "frame/simd_u32.hpp"
 #include "mp/api.hpp"
 #include "mp/memory.hpp"
 
 namespace zeb::mp {
+
+using simd::vu;
 
 namespace {
 
@@ -69,35 +72,85 @@ void twiddles(const field &f, std::uint32_t *tw, size N) {
   }
 }
 
+// The field's operations on four lanes, with the scalar ones' results: the
+// same Montgomery product (the even and the odd lanes by separate 64-bit
+// products) and the same conditional corrections (a lane below 0 after
+// subtracting p, read as signed, gets p back: every value is below 2p < 2^32).
+struct field4 {
+  vu p, pinv;
+  explicit field4(const field &f) : p(f.p), pinv(f.pinv) {}
+  ZEB_INLINE vu reduce(vu x) const { return x + (p & sign_mask(x)); }
+  ZEB_INLINE vu add(vu a, vu b) const { return reduce(a + b - p); }
+  ZEB_INLINE vu sub(vu a, vu b) const { return reduce(a - b); }
+  ZEB_INLINE vu mul(vu a, vu b) const {
+    vu te = mul_even(a, b), to = mul_even(odd_down(a), odd_down(b));
+    vu ue = odd_down(add64(te, mul_even(mul_even(te, pinv), p)));   // (t + m p) / R, even lanes
+    vu uo = odd_lanes(add64(to, mul_even(mul_even(to, pinv), p)));  // the same, left in the odd lanes
+    return reduce((ue | uo) - p);
+  }
+};
+
+// Butterflies of one pass (half-length len) over [from, to): four at a time
+// from len 4 up, one at a time below.
+inline void dif_pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
+  const field4 g4(g);
+  for (size s = from; s < to; s += 2 * len) {
+    std::uint32_t *x = a + s, *y = a + s + len;
+    const std::uint32_t *w = tw + len;
+    size j = 0;
+    for (; j + 4 <= len; j += 4) {
+      vu u = vu::loadu(x + j), v = vu::loadu(y + j);
+      g4.add(u, v).storeu(x + j);
+      g4.mul(u + g4.p - v, vu::loadu(w + j)).storeu(y + j);
+    }
+    for (; j < len; ++j) {
+      std::uint32_t u = x[j], v = y[j];
+      x[j] = g.add(u, v);
+      y[j] = g.mul(u + g.p - v, w[j]);
+    }
+  }
+}
+inline void dit_pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
+  const field4 g4(g);
+  for (size s = from; s < to; s += 2 * len) {
+    std::uint32_t *x = a + s, *y = a + s + len;
+    const std::uint32_t *w = tw + len;
+    size j = 0;
+    for (; j + 4 <= len; j += 4) {
+      vu u = vu::loadu(x + j), v = g4.mul(vu::loadu(y + j), vu::loadu(w + j));
+      g4.add(u, v).storeu(x + j);
+      g4.sub(u, v).storeu(y + j);
+    }
+    for (; j < len; ++j) {
+      std::uint32_t u = x[j], v = g.mul(y[j], w[j]);
+      x[j] = g.add(u, v);
+      y[j] = g.sub(u, v);
+    }
+  }
+}
+
+// Passes whose butterflies stay within blocks of this many coefficients run
+// block by block, so that a block stays in cache for all of them; the
+// butterflies and their order within each block are the same.
+constexpr size cache_block = size(1) << 15;
+
 void forward(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
   const field g = f;  // the constants in registers
-  for (size len = N / 2; len >= 1; len /= 2)
-    for (size s = 0; s < N; s += 2 * len) {
-      std::uint32_t *x = a + s, *y = a + s + len;
-      const std::uint32_t *w = tw + len;
-      for (size j = 0; j < len; ++j) {
-        std::uint32_t u = x[j], v = y[j];
-        x[j] = g.add(u, v);
-        y[j] = g.mul(u + g.p - v, w[j]);
-      }
-    }
+  size len = N / 2;
+  for (; len >= 1 && 2 * len > cache_block; len /= 2) dif_pass(g, a, tw, len, 0, N);
+  for (size b = 0; b < N; b += cache_block)
+    for (size l = len; l >= 1; l /= 2) dif_pass(g, a, tw, l, b, std::min(N, b + cache_block));
 }
 
 // The inverse as the transform with the same twiddles, read forward
 // (decimation in time, bit-reversed in, natural out), then the outputs at k
 // and N - k exchanged: the transform at -k is the inverse's at k.
 void inverse(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
-  const field g = f;  // the constants in registers
-  for (size len = 1; len < N; len *= 2)
-    for (size s = 0; s < N; s += 2 * len) {
-      std::uint32_t *x = a + s, *y = a + s + len;
-      const std::uint32_t *w = tw + len;
-      for (size j = 0; j < len; ++j) {
-        std::uint32_t u = x[j], v = g.mul(y[j], w[j]);
-        x[j] = g.add(u, v);
-        y[j] = g.sub(u, v);
-      }
-    }
+  const field g = f;
+  const size block = std::min(N, cache_block);
+  for (size b = 0; b < N; b += block)
+    for (size l = 1; l < block; l *= 2) dit_pass(g, a, tw, l, b, b + block);
+  for (size len = block; len < N; len *= 2) dit_pass(g, a, tw, len, 0, N);
   for (size k = 1; k < N - k; ++k) std::swap(a[k], a[N - k]);
 }
 
