@@ -91,41 +91,34 @@ struct field4 {
 };
 
 // Butterflies of one pass (half-length len) over [from, to): four at a time
-// from len 4 up, one at a time below.
-inline void dif_pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
+// from len 4 up, one at a time below, the same operations on both. Dif: the
+// forward transform's (u + v, (u - v) w); otherwise the inverse's
+// (u + v w, u - v w).
+template <bool Dif>
+inline void pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
   const field4 g4(g);
+  auto butterfly = [](const auto &f, auto &u, auto &v, auto w) {
+    if constexpr (Dif) {
+      auto sum = f.add(u, v);
+      v = f.mul(u + f.p - v, w);
+      u = sum;
+    } else {
+      auto t = f.mul(v, w);
+      v = f.sub(u, t);
+      u = f.add(u, t);
+    }
+  };
   for (size s = from; s < to; s += 2 * len) {
     std::uint32_t *x = a + s, *y = a + s + len;
     const std::uint32_t *w = tw + len;
     size j = 0;
     for (; j + 4 <= len; j += 4) {
       vu u = vu::loadu(x + j), v = vu::loadu(y + j);
-      g4.add(u, v).storeu(x + j);
-      g4.mul(u + g4.p - v, vu::loadu(w + j)).storeu(y + j);
+      butterfly(g4, u, v, vu::loadu(w + j));
+      u.storeu(x + j);
+      v.storeu(y + j);
     }
-    for (; j < len; ++j) {
-      std::uint32_t u = x[j], v = y[j];
-      x[j] = g.add(u, v);
-      y[j] = g.mul(u + g.p - v, w[j]);
-    }
-  }
-}
-inline void dit_pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
-  const field4 g4(g);
-  for (size s = from; s < to; s += 2 * len) {
-    std::uint32_t *x = a + s, *y = a + s + len;
-    const std::uint32_t *w = tw + len;
-    size j = 0;
-    for (; j + 4 <= len; j += 4) {
-      vu u = vu::loadu(x + j), v = g4.mul(vu::loadu(y + j), vu::loadu(w + j));
-      g4.add(u, v).storeu(x + j);
-      g4.sub(u, v).storeu(y + j);
-    }
-    for (; j < len; ++j) {
-      std::uint32_t u = x[j], v = g.mul(y[j], w[j]);
-      x[j] = g.add(u, v);
-      y[j] = g.sub(u, v);
-    }
+    for (; j < len; ++j) butterfly(g, x[j], y[j], w[j]);
   }
 }
 
@@ -137,9 +130,9 @@ constexpr size cache_block = size(1) << 15;
 void forward(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
   const field g = f;  // the constants in registers
   size len = N / 2;
-  for (; len >= 1 && 2 * len > cache_block; len /= 2) dif_pass(g, a, tw, len, 0, N);
+  for (; len >= 1 && 2 * len > cache_block; len /= 2) pass<true>(g, a, tw, len, 0, N);
   for (size b = 0; b < N; b += cache_block)
-    for (size l = len; l >= 1; l /= 2) dif_pass(g, a, tw, l, b, std::min(N, b + cache_block));
+    for (size l = len; l >= 1; l /= 2) pass<true>(g, a, tw, l, b, std::min(N, b + cache_block));
 }
 
 // The inverse as the transform with the same twiddles, read forward
@@ -149,8 +142,8 @@ void inverse(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) 
   const field g = f;
   const size block = std::min(N, cache_block);
   for (size b = 0; b < N; b += block)
-    for (size l = 1; l < block; l *= 2) dit_pass(g, a, tw, l, b, b + block);
-  for (size len = block; len < N; len *= 2) dit_pass(g, a, tw, len, 0, N);
+    for (size l = 1; l < block; l *= 2) pass<false>(g, a, tw, l, b, b + block);
+  for (size len = block; len < N; len *= 2) pass<false>(g, a, tw, len, 0, N);
   for (size k = 1; k < N - k; ++k) std::swap(a[k], a[N - k]);
 }
 

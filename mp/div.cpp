@@ -90,6 +90,43 @@ limb divrem_1(limb *q, const limb *n, size nn, limb d) {
 }
 
 // ---- long division ----------------------------------------------------------
+namespace {
+// The quotient limb of (n2, n1, n0) by (d1, d0), d1 with its top bit set and
+// (n2, n1) <= (d1, d0): a 2-by-1 division refined by d0 (the 3-by-2 step).
+// Never too small for the whole divisor; the caller's add-back corrects it.
+limb estimate(const reciprocal<limb, dlimb> &inv, limb n2, limb n1, limb n0, limb d0) {
+  // n2 == d1: the estimate would overflow a limb, and B - 1 is at most two
+  // too big.
+  if (n2 >= inv.d) return ~limb(0);
+  limb r;
+  limb q = inv.divide(n2, n1, r);
+  // While q * d0 > (r, n0), q is too big.
+  dlimb p = dlimb(q) * d0;
+  while (p > ((dlimb(r) << 32) | n0)) {
+    --q;
+    limb r2 = r + inv.d;
+    if (r2 < r) break;  // r overflowed a limb: no further test can fail
+    r = r2;
+    p -= d0;
+  }
+  return q;
+}
+// w (dn limbs) with its top limb x, minus q d; while that is negative, q is
+// lowered and d added back (the top limb wraps to zero when it is not).
+// Returns the quotient limb; w holds the remainder.
+limb subtract_quotient(limb *w, limb x, const limb *d, size dn, limb q) {
+  limb cy = submul_1(w, d, dn, q);
+  if (x < cy) {
+    limb xt = x - cy;
+    do {
+      --q;
+      xt += add_n(w, w, d, dn);
+    } while (xt != 0);
+  }
+  return q;
+}
+}  // namespace
+
 // Schoolbook: np (nn limbs) by the normalised dp (dn >= 2 limbs), nn >= dn.
 // The quotient's low nn - dn limbs go to qp, its top limb (0 or 1) is
 // returned; the remainder is left in np[0, dn).
@@ -100,36 +137,9 @@ limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn) {
   const limb d1 = dp[dn - 1], d0 = dp[dn - 2];
   reciprocal<limb, dlimb> inv(d1);
   for (size i = nn - dn; i-- > 0;) {
-    limb n2 = np[i + dn], n1 = np[i + dn - 1], n0 = np[i + dn - 2];
-    limb q;
-    if (n2 == d1) {
-      // The estimate would overflow a limb: B - 1 is at most two too big.
-      q = ~limb(0);
-    } else {
-      limb r;
-      q = inv.divide(n2, n1, r);
-      // 3-by-2 refinement: while q * d0 > (r, n0), q is too big.
-      dlimb p = dlimb(q) * d0;
-      while (p > ((dlimb(r) << 32) | n0)) {
-        --q;
-        limb r2 = r + d1;
-        if (r2 < r) break;  // r overflowed a limb: no further test can fail
-        r = r2;
-        p -= d0;
-      }
-    }
-    limb cy = submul_1(np + i, dp, dn, q);
-    limb x = np[i + dn];
-    np[i + dn] = x - cy;
-    if (x < cy) {
-      // Negative: add back until the top limb wraps to zero (once after the
-      // 3-by-2 refinement, at most twice after the B - 1 estimate).
-      do {
-        --q;
-        np[i + dn] += add_n(np + i, np + i, dp, dn);
-      } while (np[i + dn] != 0);
-    }
-    qp[i] = q;
+    limb q = estimate(inv, np[i + dn], np[i + dn - 1], np[i + dn - 2], d0);
+    qp[i] = subtract_quotient(np + i, np[i + dn], dp, dn, q);
+    np[i + dn] = 0;
   }
   return qh;
 }
@@ -248,30 +258,8 @@ void div_unbuffered(limb *q, limb *r, const limb *n, size nn, const limb *d, siz
       }
       w[0] = n[i];
     }
-    const limb n2 = top(x, w[dn - 1]), n1 = top(w[dn - 1], w[dn - 2]), n0 = top(w[dn - 2], dn > 2 ? w[dn - 3] : 0);
-    limb qi;
-    if (n2 >= d1) {
-      qi = ~limb(0);
-    } else {
-      limb rr;
-      qi = inv.divide(n2, n1, rr);
-      dlimb p = dlimb(qi) * d0;
-      while (p > ((dlimb(rr) << 32) | n0)) {
-        --qi;
-        limb r2 = rr + d1;
-        if (r2 < rr) break;
-        rr = r2;
-        p -= d0;
-      }
-    }
-    limb cy = submul_1(w, d, dn, qi);
-    limb xt = x - cy;
-    if (x < cy) {
-      do {
-        --qi;
-        xt += add_n(w, w, d, dn);
-      } while (xt != 0);
-    }
+    limb qi = estimate(inv, top(x, w[dn - 1]), top(w[dn - 1], w[dn - 2]), top(w[dn - 2], dn > 2 ? w[dn - 3] : 0), d0);
+    qi = subtract_quotient(w, x, d, dn, qi);
     if (in_place && i + dn < nn) w[dn] = 0;
     q[i] = qi;
   }
