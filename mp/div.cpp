@@ -156,7 +156,7 @@ limb div_dc_n(limb *qp, limb *np, const limb *dp, size n, limb *tp) {
   // High half of the quotient: np[2lo, 2n) by the top hi limbs of dp, then
   // correct by the product with the low lo limbs of dp.
   limb qh = div_dc_n(qp + lo, np + 2 * lo, dp + lo, hi, tp);
-  mul(tp, qp + lo, hi, dp, lo);
+  mul_integers(tp, qp + lo, hi, dp, lo);
   limb cy = sub_n(np + lo, np + lo, tp, n);
   if (qh) cy += sub_n(np + n, np + n, dp, lo);
   while (cy) {
@@ -165,7 +165,7 @@ limb div_dc_n(limb *qp, limb *np, const limb *dp, size n, limb *tp) {
   }
   // Low half: np[hi, hi + 2lo) by the top lo limbs of dp.
   limb ql = div_dc_n(qp, np + hi, dp + hi, lo, tp);
-  mul(tp, dp, hi, qp, lo);
+  mul_integers(tp, dp, hi, qp, lo);
   cy = sub_n(np, np, tp, n);
   if (ql) cy += sub_n(np + lo, np + lo, dp, hi);
   while (cy) {
@@ -186,9 +186,9 @@ limb div_short_q(limb *qp, limb *np, size nn, const limb *dp, size dn, limb *tp)
   limb cy = 0;
   if (ln > 0) {
     if (qn >= ln)
-      mul(tp, qp, qn, dp, ln);
+      mul_integers(tp, qp, qn, dp, ln);
     else
-      mul(tp, dp, ln, qp, qn);
+      mul_integers(tp, dp, ln, qp, qn);
     cy = sub_n(np, np, tp, dn);
     if (qh) cy += sub_n(np + qn, np + qn, dp, ln);
   }

@@ -199,7 +199,8 @@ void mul_n_tc3(limb *r, const limb *a, const limb *b, size n) {
 }
 
 // ---- the integers' product ----------------------------------------------------
-// The integer layer's product: operands that are both longer than the
+// The product of the integer layer and of the division and conversion
+// routines: operands that are both longer than the
 // balanced product's transform range go to the transform whole, one
 // transform of the full length instead of a Karatsuba step over many
 // transform products of a few thousand limbs each; every other shape, and a

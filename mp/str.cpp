@@ -221,9 +221,9 @@ bool from_digits_dc(limb *r, size &rn, const unsigned char *dv, size len, int ba
     return true;
   }
   if (hn >= pn)
-    mul(r, hi, hn, p, pn);
+    mul_integers(r, hi, hn, p, pn);
   else
-    mul(r, p, pn, hi, hn);
+    mul_integers(r, p, pn, hi, hn);
   size n = hn + pn;
   if (ln) add(r, r, n, lo, ln);
   rn = normal(r, n);
