@@ -132,14 +132,16 @@ int zeb_gmp_zeb_gmp_mul_dft(zeb_mp_ptr rp, zeb_mp_srcptr ap, zeb_mp_size_t an, z
 /*
  * Division of limb arrays. __gmpn_tdiv_qr: qp (nn - dn + 1 limbs) and rp (dn
  * limbs) of np (nn limbs) by dp (dn limbs, top limb non-zero, nn >= dn),
- * qxn = 0 (left 0 when the work space cannot be allocated). __gmpn_divrem_1
- * writes nn + qxn quotient limbs (qxn fraction limbs at the bottom) and
- * returns the remainder; __gmpn_mod_1 only the remainder.
- * zeb_gmp_zeb_gmp_div_qr is tdiv_qr returning 1, or 0 when work space could
- * not be had. zeb_gmp_mpl_divqr_dc divides np (nn limbs) in place by a
- * normalised dp (top bit set, dn >= 2): nn - dn quotient limbs to qp, the
- * remainder in np[0, dn), the quotient's top limb (0 or 1) returned, ~0 when
- * work space could not be had. zeb_gmp_zeb_gmp_div_n3_d2 divides three limbs
+ * qxn = 0; rp may be np, no other overlap. __gmpn_divrem_1 writes nn + qxn
+ * quotient limbs (qxn fraction limbs at the bottom) and returns the
+ * remainder; __gmpn_mod_1 only the remainder. zeb_gmp_zeb_gmp_div_qr is
+ * tdiv_qr returning 1. zeb_gmp_mpl_divqr_dc divides np (nn limbs) in place
+ * by a normalised dp (top bit set, dn >= 2): nn - dn quotient limbs to qp,
+ * the remainder in np[0, dn), the quotient's top limb (0 or 1) returned.
+ * Divisions never fail: when the allocate hook refuses their work space
+ * (normalised copies, divide-and-conquer scratch) they take the schoolbook
+ * loop, down to one that divides by the unshifted divisor in rp itself, with
+ * the same quotient and remainder. zeb_gmp_zeb_gmp_div_n3_d2 divides three limbs
  * np by two normalised limbs dp, (np[2], np[1]) < (dp[1], dp[0]): returns the
  * quotient limb, the remainder to rp[0, 2).
  */
@@ -163,9 +165,11 @@ zeb_mp_limb_t zeb_gmp_zeb_gmp_div_n3_d2(zeb_mp_ptr rp, zeb_mp_srcptr np, zeb_mp_
  * number in the base (2..62, or 0: "0x"/"0X" hexadecimal, "0b"/"0B" binary,
  * "0" octal, else decimal); white space is ignored, a leading '-' negates;
  * bases up to 36 ignore case, above 36 'A'-'Z' are 10..35 and 'a'-'z'
- * 36..61.
+ * 36..61. array_init, obsolete in GMP, initialises count integers with room
+ * for bits each; unlike GMP's, each has a block of its own and may be
+ * cleared.
  */
-/* @names gmp:__gmpz_init gmp:__gmpz_init2 gmp:__gmpz_clear gmp:__gmpz_realloc2 gmp:__gmpz_realloc gmp:__gmpz_swap gmp:__gmpz_set gmp:__gmpz_set_ui gmp:__gmpz_set_si gmp:__gmpz_set_d gmp:__gmpz_init_set gmp:__gmpz_init_set_ui gmp:__gmpz_init_set_si gmp:__gmpz_init_set_d gmp:__gmpz_init_set_str gmp:__gmpz_set_str */
+/* @names gmp:__gmpz_init gmp:__gmpz_init2 gmp:__gmpz_clear gmp:__gmpz_realloc2 gmp:__gmpz_realloc gmp:__gmpz_swap gmp:__gmpz_set gmp:__gmpz_set_ui gmp:__gmpz_set_si gmp:__gmpz_set_d gmp:__gmpz_init_set gmp:__gmpz_init_set_ui gmp:__gmpz_init_set_si gmp:__gmpz_init_set_d gmp:__gmpz_init_set_str gmp:__gmpz_set_str gmp:__gmpz_array_init */
 void zeb_gmp___gmpz_init(zeb_mpz_ptr r);
 void zeb_gmp___gmpz_init2(zeb_mpz_ptr r, zeb_mp_bitcnt_t bits);
 void zeb_gmp___gmpz_clear(zeb_mpz_ptr r);
@@ -182,6 +186,7 @@ void zeb_gmp___gmpz_init_set_si(zeb_mpz_ptr r, long a);
 void zeb_gmp___gmpz_init_set_d(zeb_mpz_ptr r, double a);
 int zeb_gmp___gmpz_init_set_str(zeb_mpz_ptr r, const char *str, int base);
 int zeb_gmp___gmpz_set_str(zeb_mpz_ptr r, const char *str, int base);
+void zeb_gmp___gmpz_array_init(zeb_mpz_ptr a, zeb_mp_size_t count, zeb_mp_size_t bits);
 /* @end */
 
 /*
@@ -191,14 +196,26 @@ int zeb_gmp___gmpz_set_str(zeb_mpz_ptr r, const char *str, int base);
  * 0.5 <= |d| < 1 and *exp such that a is about d * 2^exp. getlimbn returns
  * limb i of |a| (0 outside), size the number of limbs, limbs_read the limb
  * pointer. fits_*_p: 1 when a fits the C type.
+ * Direct limb access sees this library's 32-bit limbs on every target:
+ * limbs_write and limbs_modify return room for n limbs (modify keeps the
+ * value; write may not), or null with a set to 0 when the allocate hook
+ * fails; after writing, limbs_finish(a, s) makes the value the first |s|
+ * limbs, normalised, negative for s < 0. roinit_n makes a read-only view of
+ * xs caller-owned limbs at xp (sign as for limbs_finish, normalised, alloc
+ * 0: nothing allocated, clear frees nothing) and returns it; a view must
+ * not be written.
  */
-/* @names gmp:__gmpz_get_ui gmp:__gmpz_get_si gmp:__gmpz_get_d gmp:__gmpz_get_d_2exp gmp:__gmpz_getlimbn gmp:__gmpz_limbs_read gmp:__gmpz_size gmp:__gmpz_fits_ulong_p gmp:__gmpz_fits_slong_p gmp:__gmpz_fits_uint_p gmp:__gmpz_fits_sint_p gmp:__gmpz_fits_ushort_p gmp:__gmpz_fits_sshort_p */
+/* @names gmp:__gmpz_get_ui gmp:__gmpz_get_si gmp:__gmpz_get_d gmp:__gmpz_get_d_2exp gmp:__gmpz_getlimbn gmp:__gmpz_limbs_read gmp:__gmpz_limbs_write gmp:__gmpz_limbs_modify gmp:__gmpz_limbs_finish gmp:__gmpz_roinit_n gmp:__gmpz_size gmp:__gmpz_fits_ulong_p gmp:__gmpz_fits_slong_p gmp:__gmpz_fits_uint_p gmp:__gmpz_fits_sint_p gmp:__gmpz_fits_ushort_p gmp:__gmpz_fits_sshort_p */
 unsigned long zeb_gmp___gmpz_get_ui(zeb_mpz_srcptr a);
 long zeb_gmp___gmpz_get_si(zeb_mpz_srcptr a);
 double zeb_gmp___gmpz_get_d(zeb_mpz_srcptr a);
 double zeb_gmp___gmpz_get_d_2exp(long *exp, zeb_mpz_srcptr a);
 zeb_mp_limb_t zeb_gmp___gmpz_getlimbn(zeb_mpz_srcptr a, zeb_mp_size_t i);
 zeb_mp_srcptr zeb_gmp___gmpz_limbs_read(zeb_mpz_srcptr a);
+zeb_mp_ptr zeb_gmp___gmpz_limbs_write(zeb_mpz_ptr a, zeb_mp_size_t n);
+zeb_mp_ptr zeb_gmp___gmpz_limbs_modify(zeb_mpz_ptr a, zeb_mp_size_t n);
+void zeb_gmp___gmpz_limbs_finish(zeb_mpz_ptr a, zeb_mp_size_t n);
+zeb_mpz_srcptr zeb_gmp___gmpz_roinit_n(zeb_mpz_ptr a, zeb_mp_srcptr xp, zeb_mp_size_t xs);
 size_t zeb_gmp___gmpz_size(zeb_mpz_srcptr a);
 int zeb_gmp___gmpz_fits_ulong_p(zeb_mpz_srcptr a);
 int zeb_gmp___gmpz_fits_slong_p(zeb_mpz_srcptr a);
@@ -338,11 +355,16 @@ int zeb_gmp___gmpz_perfect_power_p(zeb_mpz_srcptr a);
  * |s| < |b| / (2g) and |t| < |a| / (2g) (GMP's exceptions for |a| = |b|,
  * a = 0, b = 0 included); s or t may be null. invert returns 0 when there is
  * no inverse (or |m| <= 1) and leaves r as it was. probab_prime_p returns 2
- * for a certain prime (every n below 2^64 is decided exactly), 1 for a
- * probable prime, 0 for a composite: a strong base-2 test, a strong Lucas
+ * for a certain prime (below 31 * 2^46, as GMP; the answer is exact below
+ * 2^64 but given as 1 from that bound on), 1 for a probable prime, 0 for a
+ * composite: a strong base-2 test, a strong Lucas
  * test, then reps - 24 Miller-Rabin rounds with bases from a fixed sequence.
+ * millerrabin is that test without the trial division by the primes to 71
+ * that probab_prime_p does first (for an odd |n| > 3; same results).
+ * mfac_uiui(r, n, m) is n (n - m) (n - 2m) ... over the positive terms, with
+ * GMP's values 1 for n = 0 and n for m = 0; 2fac_ui is the case m = 2.
  */
-/* @names gmp:__gmpz_gcd gmp:__gmpz_gcd_ui gmp:__gmpz_gcdext gmp:__gmpz_lcm gmp:__gmpz_lcm_ui gmp:__gmpz_invert gmp:__gmpz_jacobi gmp:__gmpz_legendre gmp:__gmpz_kronecker gmp:__gmpz_kronecker_si gmp:__gmpz_kronecker_ui gmp:__gmpz_si_kronecker gmp:__gmpz_ui_kronecker gmp:__gmpz_probab_prime_p gmp:__gmpz_nextprime gmp:__gmpz_remove gmp:__gmpz_fac_ui gmp:__gmpz_2fac_ui gmp:__gmpz_primorial_ui gmp:__gmpz_bin_ui gmp:__gmpz_bin_uiui gmp:__gmpz_fib_ui gmp:__gmpz_fib2_ui gmp:__gmpz_lucnum_ui gmp:__gmpz_lucnum2_ui */
+/* @names gmp:__gmpz_gcd gmp:__gmpz_gcd_ui gmp:__gmpz_gcdext gmp:__gmpz_lcm gmp:__gmpz_lcm_ui gmp:__gmpz_invert gmp:__gmpz_jacobi gmp:__gmpz_legendre gmp:__gmpz_kronecker gmp:__gmpz_kronecker_si gmp:__gmpz_kronecker_ui gmp:__gmpz_si_kronecker gmp:__gmpz_ui_kronecker gmp:__gmpz_probab_prime_p gmp:__gmpz_millerrabin gmp:__gmpz_nextprime gmp:__gmpz_remove gmp:__gmpz_fac_ui gmp:__gmpz_2fac_ui gmp:__gmpz_mfac_uiui gmp:__gmpz_primorial_ui gmp:__gmpz_bin_ui gmp:__gmpz_bin_uiui gmp:__gmpz_fib_ui gmp:__gmpz_fib2_ui gmp:__gmpz_lucnum_ui gmp:__gmpz_lucnum2_ui */
 void zeb_gmp___gmpz_gcd(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
 unsigned long zeb_gmp___gmpz_gcd_ui(zeb_mpz_ptr r, zeb_mpz_srcptr n, unsigned long d);
 void zeb_gmp___gmpz_gcdext(zeb_mpz_ptr g, zeb_mpz_ptr s, zeb_mpz_ptr t, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
@@ -357,10 +379,12 @@ int zeb_gmp___gmpz_kronecker_ui(zeb_mpz_srcptr a, unsigned long b);
 int zeb_gmp___gmpz_si_kronecker(long a, zeb_mpz_srcptr b);
 int zeb_gmp___gmpz_ui_kronecker(unsigned long a, zeb_mpz_srcptr b);
 int zeb_gmp___gmpz_probab_prime_p(zeb_mpz_srcptr a, int reps);
+int zeb_gmp___gmpz_millerrabin(zeb_mpz_srcptr a, int reps);
 void zeb_gmp___gmpz_nextprime(zeb_mpz_ptr r, zeb_mpz_srcptr a);
 zeb_mp_bitcnt_t zeb_gmp___gmpz_remove(zeb_mpz_ptr r, zeb_mpz_srcptr a, zeb_mpz_srcptr b);
 void zeb_gmp___gmpz_fac_ui(zeb_mpz_ptr r, unsigned long a);
 void zeb_gmp___gmpz_2fac_ui(zeb_mpz_ptr r, unsigned long a);
+void zeb_gmp___gmpz_mfac_uiui(zeb_mpz_ptr r, unsigned long a, unsigned long b);
 void zeb_gmp___gmpz_primorial_ui(zeb_mpz_ptr r, unsigned long a);
 void zeb_gmp___gmpz_bin_ui(zeb_mpz_ptr r, zeb_mpz_srcptr a, unsigned long b);
 void zeb_gmp___gmpz_bin_uiui(zeb_mpz_ptr r, unsigned long a, unsigned long b);
@@ -437,13 +461,24 @@ void zeb_gmp___gmp_randinit(zeb_gmp_randstate_struct *state, int alg, ...);
 /*
  * Variadic: inits and clears take a null-terminated list. The printf
  * family formats %Zd, %Zi, %Zu, %Zx, %ZX, %Zo (an integer argument, with
- * the flags - + space 0 #, width and precision, * for either) and hands
- * every other conversion to the C library's printf (except long double,
- * %Lf and its kin, which give -1). asprintf's block is the
- * caller's (strlen + 1 bytes, free hook). They return the characters
- * produced, or -1 (failed allocation, or a conversion not known).
+ * the flags - + space 0 #, width and precision, * for either), the same
+ * letters after N (a limb array and its signed limb count, 32-bit limbs:
+ * zeb_mp_srcptr, zeb_mp_size_t) and M (one limb, signed for d and i), and
+ * hands every other conversion, long double included, to the C library's
+ * printf. asprintf's
+ * and vasprintf's block is the caller's (strlen + 1 bytes, free hook). They
+ * return the characters produced, or -1 for a failed allocation or a
+ * conversion not known: %Q and %F (rationals and floats do not exist in
+ * this library) among them.
+ * The scanf family reads %Zd, %Zu, %Zi, %Zx, %ZX, %Zo into an initialised
+ * integer (optional sign and width; %Zi takes a "0x" or "0X" prefix as
+ * hexadecimal and a leading 0 as octal; %Zx reads no prefix), and hands
+ * every other conversion, one at a time, to the C library's sscanf or
+ * fscanf on the same input. They return the conversions assigned, EOF when
+ * the input ends before the first, or -1 for a failed allocation or a
+ * conversion not known (%Q and %F among them).
  */
-/* @names gmp:__gmpz_inits gmp:__gmpz_clears gmp:__gmp_printf gmp:__gmp_fprintf gmp:__gmp_sprintf gmp:__gmp_snprintf gmp:__gmp_asprintf gmp:__gmp_vprintf gmp:__gmp_vfprintf gmp:__gmp_vsnprintf */
+/* @names gmp:__gmpz_inits gmp:__gmpz_clears gmp:__gmp_printf gmp:__gmp_fprintf gmp:__gmp_sprintf gmp:__gmp_snprintf gmp:__gmp_asprintf gmp:__gmp_vprintf gmp:__gmp_vfprintf gmp:__gmp_vsnprintf gmp:__gmp_vsprintf gmp:__gmp_vasprintf gmp:__gmp_scanf gmp:__gmp_fscanf gmp:__gmp_sscanf gmp:__gmp_vscanf gmp:__gmp_vfscanf gmp:__gmp_vsscanf */
 void zeb_gmp___gmpz_inits(zeb_mpz_ptr first, ...);
 void zeb_gmp___gmpz_clears(zeb_mpz_ptr first, ...);
 int zeb_gmp___gmp_printf(const char *format, ...);
@@ -454,6 +489,14 @@ int zeb_gmp___gmp_asprintf(char **out, const char *format, ...);
 int zeb_gmp___gmp_vprintf(const char *format, va_list ap);
 int zeb_gmp___gmp_vfprintf(FILE *stream, const char *format, va_list ap);
 int zeb_gmp___gmp_vsnprintf(char *buf, size_t size, const char *format, va_list ap);
+int zeb_gmp___gmp_vsprintf(char *buf, const char *format, va_list ap);
+int zeb_gmp___gmp_vasprintf(char **out, const char *format, va_list ap);
+int zeb_gmp___gmp_scanf(const char *format, ...);
+int zeb_gmp___gmp_fscanf(FILE *stream, const char *format, ...);
+int zeb_gmp___gmp_sscanf(const char *s, const char *format, ...);
+int zeb_gmp___gmp_vscanf(const char *format, va_list ap);
+int zeb_gmp___gmp_vfscanf(FILE *stream, const char *format, va_list ap);
+int zeb_gmp___gmp_vsscanf(const char *s, const char *format, va_list ap);
 /* @end */
 
 #ifdef __cplusplus

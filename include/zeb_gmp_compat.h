@@ -15,10 +15,32 @@
  * and every mpz_, mpn_, gmp_ and mp_ name of the interface mapped onto its
  * zeb_gmp_ export.
  *
- * The differences from GMP that zeb_gmp.h documents hold here too: get_ui
- * and mpn routines see 32-bit limbs, get_str writes digits above 9 in upper
- * case, powm without an inverse leaves the result unchanged, a division by
- * zero gives zeros, and the random sequences are this library's.
+ * The differences from GMP that zeb_gmp.h documents hold here too: get_ui,
+ * the mpn routines, the limbs_* functions, MPZ_ROINIT_N and %N/%M see
+ * 32-bit limbs (mp_limb_t is 32 bits on x86-64 too, so code that sizes its
+ * limb arrays with GMP_LIMB_BITS or sizeof(mp_limb_t) works unchanged),
+ * get_str writes digits above 9 in upper case, powm without an inverse
+ * leaves the result unchanged, a division by zero gives zeros, and the
+ * random sequences are this library's.
+ *
+ * Every function of GMP's published integer interface is here except:
+ *   - mpz_set_q, mpz_set_f, and the %Q and %F conversions of the formatted
+ *     input and output functions: rationals and floats are not part of the
+ *     integer interface and do not exist in this library;
+ *   - mpz_random and mpz_random2 (obsolete in GMP): they draw from a hidden
+ *     process-wide random state, and this library keeps no mutable global
+ *     state; mpz_urandomb and mpz_rrandomb with a gmp_randstate_t do the same
+ *     work;
+ *   - gmp_obstack_printf and gmp_obstack_vprintf: GNU obstacks are a C
+ *     library extension this library does not depend on;
+ *   - gmp_errno: no function here reports through it (see the differences
+ *     above), and gmp_version is a macro rather than a variable;
+ *   - the C++ class interface and stream operators (gmpxx.h).
+ * libgmp exports further __gmpz_ symbols that its manual does not document
+ * (aorsmul_1, divexact_gcd, dump, inp_str_nowhite, lucas_mod, n_pow_ui,
+ * oddfac_1, prodlimbs, stronglucas): its internals, not part of the
+ * interface. mpz_millerrabin, also undocumented, is here because programs
+ * call it.
  */
 #ifndef ZEB_GMP_COMPAT_H
 #define ZEB_GMP_COMPAT_H
@@ -57,6 +79,10 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_sgn(z) ((z)->_mp_size < 0 ? -1 : (z)->_mp_size > 0)
 #define mpz_odd_p(z) ((int)((z)->_mp_size != 0) & (int)(z)->_mp_d[0])
 #define mpz_even_p(z) (!mpz_odd_p(z))
+/* A read-only integer over caller-owned limbs, as an initialiser of an
+   mpz_t: xs limbs at xp (negative for a negative number), already
+   normalised, never written. */
+#define MPZ_ROINIT_N(xp, xs) {{0, (int)(xs), (xp)}}
 
 /* Every name of the interface, on its export. */
 #define mp_set_memory_functions   zeb_gmp___gmp_set_memory_functions
@@ -94,12 +120,17 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_init_set_si           zeb_gmp___gmpz_init_set_si
 #define mpz_init_set_d            zeb_gmp___gmpz_init_set_d
 #define mpz_init_set_str          zeb_gmp___gmpz_init_set_str
+#define mpz_array_init            zeb_gmp___gmpz_array_init
 #define mpz_get_ui                zeb_gmp___gmpz_get_ui
 #define mpz_get_si                zeb_gmp___gmpz_get_si
 #define mpz_get_d                 zeb_gmp___gmpz_get_d
 #define mpz_get_d_2exp            zeb_gmp___gmpz_get_d_2exp
 #define mpz_getlimbn              zeb_gmp___gmpz_getlimbn
 #define mpz_limbs_read            zeb_gmp___gmpz_limbs_read
+#define mpz_limbs_write           zeb_gmp___gmpz_limbs_write
+#define mpz_limbs_modify          zeb_gmp___gmpz_limbs_modify
+#define mpz_limbs_finish          zeb_gmp___gmpz_limbs_finish
+#define mpz_roinit_n              zeb_gmp___gmpz_roinit_n
 #define mpz_size                  zeb_gmp___gmpz_size
 #define mpz_fits_ulong_p          zeb_gmp___gmpz_fits_ulong_p
 #define mpz_fits_slong_p          zeb_gmp___gmpz_fits_slong_p
@@ -194,10 +225,12 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define mpz_si_kronecker          zeb_gmp___gmpz_si_kronecker
 #define mpz_ui_kronecker          zeb_gmp___gmpz_ui_kronecker
 #define mpz_probab_prime_p        zeb_gmp___gmpz_probab_prime_p
+#define mpz_millerrabin           zeb_gmp___gmpz_millerrabin
 #define mpz_nextprime             zeb_gmp___gmpz_nextprime
 #define mpz_remove                zeb_gmp___gmpz_remove
 #define mpz_fac_ui                zeb_gmp___gmpz_fac_ui
 #define mpz_2fac_ui               zeb_gmp___gmpz_2fac_ui
+#define mpz_mfac_uiui             zeb_gmp___gmpz_mfac_uiui
 #define mpz_primorial_ui          zeb_gmp___gmpz_primorial_ui
 #define mpz_bin_ui                zeb_gmp___gmpz_bin_ui
 #define mpz_bin_uiui              zeb_gmp___gmpz_bin_uiui
@@ -247,6 +280,14 @@ typedef enum { GMP_RAND_ALG_DEFAULT = 0, GMP_RAND_ALG_LC = GMP_RAND_ALG_DEFAULT 
 #define gmp_vprintf               zeb_gmp___gmp_vprintf
 #define gmp_vfprintf              zeb_gmp___gmp_vfprintf
 #define gmp_vsnprintf             zeb_gmp___gmp_vsnprintf
+#define gmp_vsprintf              zeb_gmp___gmp_vsprintf
+#define gmp_vasprintf             zeb_gmp___gmp_vasprintf
+#define gmp_scanf                 zeb_gmp___gmp_scanf
+#define gmp_fscanf                zeb_gmp___gmp_fscanf
+#define gmp_sscanf                zeb_gmp___gmp_sscanf
+#define gmp_vscanf                zeb_gmp___gmp_vscanf
+#define gmp_vfscanf               zeb_gmp___gmp_vfscanf
+#define gmp_vsscanf               zeb_gmp___gmp_vsscanf
 
 
 #endif

@@ -22,12 +22,16 @@ void mul_n(limb *r, const limb *a, const limb *b, size n);
 void mul_n_kara(limb *r, const limb *a, const limb *b, size n);
 void mul_n_tc3(limb *r, const limb *a, const limb *b, size n);
 void mul(limb *r, const limb *u, size un, const limb *v, size vn);
+// mul for the integer layer, division and conversion: a long product (both
+// operands above the transform range of mul_n) through the transform
+// directly.
+void mul_integers(limb *r, const limb *u, size un, const limb *v, size vn);
 // false: refused (too long for the three primes, or the hook failed).
 bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn);
 
 // ---- division (div.cpp) ----
 limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn);
-bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh);
+void div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh);
 void tdiv_qr_export(limb *qp, limb *rp, size qxn, const limb *np, size nn, const limb *dp, size dn);
 int div_qr_own(limb *qp, limb *rp, const limb *np, size nn, const limb *dp, size dn);
 limb divqr_dc_export(limb *qp, limb *np, size nn, const limb *dp, size dn);

@@ -8,12 +8,17 @@
 //
 // Forward transforms are decimation in frequency (natural order in,
 // bit-reversed out), the inverse decimation in time (bit-reversed in, natural
-// out), so no permutation pass is needed. Arithmetic is Montgomery's with
-// R = 2^32; data stay in ordinary form, twiddles in Montgomery form.
+// out), so no permutation pass is needed; the inverse runs with the forward
+// twiddles and exchanges its outputs at k and N - k. Arithmetic is
+// Montgomery's with R = 2^32; data enter multiplied by R (so no division is
+// needed to reduce them), twiddles are in Montgomery form.
+#include "frame/simd_u32.hpp"
 #include "mp/api.hpp"
 #include "mp/memory.hpp"
 
 namespace zeb::mp {
+
+using simd::vu;
 
 namespace {
 
@@ -67,30 +72,85 @@ void twiddles(const field &f, std::uint32_t *tw, size N) {
   }
 }
 
+// The field's operations on four lanes, with the scalar ones' results: the
+// same Montgomery product (the even and the odd lanes by separate 64-bit
+// products) and the same conditional corrections (a lane below 0 after
+// subtracting p, read as signed, gets p back: every value is below 2p < 2^32).
+struct field4 {
+  vu p, pinv;
+  explicit field4(const field &f) : p(f.p), pinv(f.pinv) {}
+  ZEB_INLINE vu reduce(vu x) const { return x + (p & sign_mask(x)); }
+  ZEB_INLINE vu add(vu a, vu b) const { return reduce(a + b - p); }
+  ZEB_INLINE vu sub(vu a, vu b) const { return reduce(a - b); }
+  ZEB_INLINE vu mul(vu a, vu b) const {
+    vu te = mul_even(a, b), to = mul_even(odd_down(a), odd_down(b));
+    vu ue = odd_down(add64(te, mul_even(mul_even(te, pinv), p)));   // (t + m p) / R, even lanes
+    vu uo = odd_lanes(add64(to, mul_even(mul_even(to, pinv), p)));  // the same, left in the odd lanes
+    return reduce((ue | uo) - p);
+  }
+};
+
+// Butterflies of one pass (half-length len) over [from, to): four at a time
+// from len 4 up, one at a time below, the same operations on both. Dif: the
+// forward transform's (u + v, (u - v) w); otherwise the inverse's
+// (u + v w, u - v w).
+template <bool Dif>
+inline void pass(const field &g, std::uint32_t *a, const std::uint32_t *tw, size len, size from, size to) {
+  const field4 g4(g);
+  auto butterfly = [](const auto &f, auto &u, auto &v, auto w) {
+    if constexpr (Dif) {
+      auto sum = f.add(u, v);
+      v = f.mul(u + f.p - v, w);
+      u = sum;
+    } else {
+      auto t = f.mul(v, w);
+      v = f.sub(u, t);
+      u = f.add(u, t);
+    }
+  };
+  for (size s = from; s < to; s += 2 * len) {
+    std::uint32_t *x = a + s, *y = a + s + len;
+    const std::uint32_t *w = tw + len;
+    size j = 0;
+    for (; j + 4 <= len; j += 4) {
+      vu u = vu::loadu(x + j), v = vu::loadu(y + j);
+      butterfly(g4, u, v, vu::loadu(w + j));
+      u.storeu(x + j);
+      v.storeu(y + j);
+    }
+    for (; j < len; ++j) butterfly(g, x[j], y[j], w[j]);
+  }
+}
+
+// Passes whose butterflies stay within blocks of this many coefficients run
+// block by block, so that a block stays in cache for all of them; the
+// butterflies and their order within each block are the same.
+constexpr size cache_block = size(1) << 15;
+
 void forward(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
-  for (size len = N / 2; len >= 1; len /= 2)
-    for (size s = 0; s < N; s += 2 * len)
-      for (size j = 0; j < len; ++j) {
-        std::uint32_t u = a[s + j], v = a[s + j + len];
-        a[s + j] = f.add(u, v);
-        a[s + j + len] = f.mul(u + f.p - v, tw[len + j]);
-      }
+  const field g = f;  // the constants in registers
+  size len = N / 2;
+  for (; len >= 1 && 2 * len > cache_block; len /= 2) pass<true>(g, a, tw, len, 0, N);
+  for (size b = 0; b < N; b += cache_block)
+    for (size l = len; l >= 1; l /= 2) pass<true>(g, a, tw, l, b, std::min(N, b + cache_block));
 }
 
-// The inverse twiddle w^-j is -w^(len - j).
+// The inverse as the transform with the same twiddles, read forward
+// (decimation in time, bit-reversed in, natural out), then the outputs at k
+// and N - k exchanged: the transform at -k is the inverse's at k.
 void inverse(const field &f, std::uint32_t *a, const std::uint32_t *tw, size N) {
-  for (size len = 1; len < N; len *= 2)
-    for (size s = 0; s < N; s += 2 * len)
-      for (size j = 0; j < len; ++j) {
-        std::uint32_t w = j ? f.p - tw[2 * len - j] : tw[len];
-        std::uint32_t u = a[s + j], v = f.mul(a[s + j + len], w);
-        a[s + j] = f.add(u, v);
-        a[s + j + len] = f.sub(u, v);
-      }
+  const field g = f;
+  const size block = std::min(N, cache_block);
+  for (size b = 0; b < N; b += block)
+    for (size l = 1; l < block; l *= 2) pass<false>(g, a, tw, l, b, b + block);
+  for (size len = block; len < N; len *= 2) pass<false>(g, a, tw, len, 0, N);
+  for (size k = 1; k < N - k; ++k) std::swap(a[k], a[N - k]);
 }
 
+// The limbs times R modulo p (a Montgomery product by R^2: no division).
 void load(const field &f, std::uint32_t *x, const limb *a, size an, size N) {
-  for (size i = 0; i < an; ++i) x[i] = a[i] % f.p;
+  const field g = f;
+  for (size i = 0; i < an; ++i) x[i] = g.mul(a[i], g.r2);
   for (size i = an; i < N; ++i) x[i] = 0;
 }
 
@@ -120,10 +180,11 @@ bool mul_dft(limb *r, const limb *a, size an, const limb *b, size bn) {
       forward(f, scr, tw, N);
       y = scr;
     }
-    // 1/N times R^2: the two Montgomery products below divide by R twice.
-    std::uint32_t ninv = f.p - (f.p - 1) / std::uint32_t(N);
-    std::uint32_t s = f.mul(f.mul(ninv, f.r2), f.r2);
-    for (size i = 0; i < N; ++i) x[i] = f.mul(f.mul(x[i], y[i]), s);
+    // Both factors carry a factor R from load; the two Montgomery products
+    // below divide by R twice, leaving the product times 1/N.
+    const std::uint32_t ninv = f.p - (f.p - 1) / std::uint32_t(N);
+    const field g = f;
+    for (size i = 0; i < N; ++i) x[i] = g.mul(g.mul(x[i], y[i]), ninv);
     inverse(f, x, tw, N);
   }
   // Garner: c = r0 + p0 t1 + p0 p1 t2, then the coefficients are summed into

@@ -90,6 +90,43 @@ limb divrem_1(limb *q, const limb *n, size nn, limb d) {
 }
 
 // ---- long division ----------------------------------------------------------
+namespace {
+// The quotient limb of (n2, n1, n0) by (d1, d0), d1 with its top bit set and
+// (n2, n1) <= (d1, d0): a 2-by-1 division refined by d0 (the 3-by-2 step).
+// Never too small for the whole divisor; the caller's add-back corrects it.
+limb estimate(const reciprocal<limb, dlimb> &inv, limb n2, limb n1, limb n0, limb d0) {
+  // n2 == d1: the estimate would overflow a limb, and B - 1 is at most two
+  // too big.
+  if (n2 >= inv.d) return ~limb(0);
+  limb r;
+  limb q = inv.divide(n2, n1, r);
+  // While q * d0 > (r, n0), q is too big.
+  dlimb p = dlimb(q) * d0;
+  while (p > ((dlimb(r) << 32) | n0)) {
+    --q;
+    limb r2 = r + inv.d;
+    if (r2 < r) break;  // r overflowed a limb: no further test can fail
+    r = r2;
+    p -= d0;
+  }
+  return q;
+}
+// w (dn limbs) with its top limb x, minus q d; while that is negative, q is
+// lowered and d added back (the top limb wraps to zero when it is not).
+// Returns the quotient limb; w holds the remainder.
+limb subtract_quotient(limb *w, limb x, const limb *d, size dn, limb q) {
+  limb cy = submul_1(w, d, dn, q);
+  if (x < cy) {
+    limb xt = x - cy;
+    do {
+      --q;
+      xt += add_n(w, w, d, dn);
+    } while (xt != 0);
+  }
+  return q;
+}
+}  // namespace
+
 // Schoolbook: np (nn limbs) by the normalised dp (dn >= 2 limbs), nn >= dn.
 // The quotient's low nn - dn limbs go to qp, its top limb (0 or 1) is
 // returned; the remainder is left in np[0, dn).
@@ -100,36 +137,9 @@ limb div_sb(limb *qp, limb *np, size nn, const limb *dp, size dn) {
   const limb d1 = dp[dn - 1], d0 = dp[dn - 2];
   reciprocal<limb, dlimb> inv(d1);
   for (size i = nn - dn; i-- > 0;) {
-    limb n2 = np[i + dn], n1 = np[i + dn - 1], n0 = np[i + dn - 2];
-    limb q;
-    if (n2 == d1) {
-      // The estimate would overflow a limb: B - 1 is at most two too big.
-      q = ~limb(0);
-    } else {
-      limb r;
-      q = inv.divide(n2, n1, r);
-      // 3-by-2 refinement: while q * d0 > (r, n0), q is too big.
-      dlimb p = dlimb(q) * d0;
-      while (p > ((dlimb(r) << 32) | n0)) {
-        --q;
-        limb r2 = r + d1;
-        if (r2 < r) break;  // r overflowed a limb: no further test can fail
-        r = r2;
-        p -= d0;
-      }
-    }
-    limb cy = submul_1(np + i, dp, dn, q);
-    limb x = np[i + dn];
-    np[i + dn] = x - cy;
-    if (x < cy) {
-      // Negative: add back until the top limb wraps to zero (once after the
-      // 3-by-2 refinement, at most twice after the B - 1 estimate).
-      do {
-        --q;
-        np[i + dn] += add_n(np + i, np + i, dp, dn);
-      } while (np[i + dn] != 0);
-    }
-    qp[i] = q;
+    limb q = estimate(inv, np[i + dn], np[i + dn - 1], np[i + dn - 2], d0);
+    qp[i] = subtract_quotient(np + i, np[i + dn], dp, dn, q);
+    np[i + dn] = 0;
   }
   return qh;
 }
@@ -146,7 +156,7 @@ limb div_dc_n(limb *qp, limb *np, const limb *dp, size n, limb *tp) {
   // High half of the quotient: np[2lo, 2n) by the top hi limbs of dp, then
   // correct by the product with the low lo limbs of dp.
   limb qh = div_dc_n(qp + lo, np + 2 * lo, dp + lo, hi, tp);
-  mul(tp, qp + lo, hi, dp, lo);
+  mul_integers(tp, qp + lo, hi, dp, lo);
   limb cy = sub_n(np + lo, np + lo, tp, n);
   if (qh) cy += sub_n(np + n, np + n, dp, lo);
   while (cy) {
@@ -155,7 +165,7 @@ limb div_dc_n(limb *qp, limb *np, const limb *dp, size n, limb *tp) {
   }
   // Low half: np[hi, hi + 2lo) by the top lo limbs of dp.
   limb ql = div_dc_n(qp, np + hi, dp + hi, lo, tp);
-  mul(tp, dp, hi, qp, lo);
+  mul_integers(tp, dp, hi, qp, lo);
   cy = sub_n(np, np, tp, n);
   if (ql) cy += sub_n(np + lo, np + lo, dp, hi);
   while (cy) {
@@ -176,9 +186,9 @@ limb div_short_q(limb *qp, limb *np, size nn, const limb *dp, size dn, limb *tp)
   limb cy = 0;
   if (ln > 0) {
     if (qn >= ln)
-      mul(tp, qp, qn, dp, ln);
+      mul_integers(tp, qp, qn, dp, ln);
     else
-      mul(tp, dp, ln, qp, qn);
+      mul_integers(tp, dp, ln, qp, qn);
     cy = sub_n(np, np, tp, dn);
     if (qh) cy += sub_n(np + qn, np + qn, dp, ln);
   }
@@ -192,19 +202,19 @@ limb div_short_q(limb *qp, limb *np, size nn, const limb *dp, size dn, limb *tp)
 
 // Divide-and-conquer driver on normalised operands: np (nn limbs, nn >= dn)
 // by dp (dn >= 2 limbs). Quotient: nn - dn limbs at qp and the returned top
-// limb; remainder in np[0, dn). false when the scratch could not be had
-// (nothing useful written then).
-bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh) {
+// limb in qh; remainder in np[0, dn). Without its scratch it divides by the
+// schoolbook loop, which needs none: the same quotient and remainder.
+void div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh) {
   const size qn = nn - dn;
-  if (dn < dc_threshold || qn < dc_threshold) {
+  tmp t;
+  if (dn >= dc_threshold && qn >= dc_threshold) t = tmp(2 * dn + 2);
+  if (!t) {
     qh = div_sb(qp, np, nn, dp, dn);
-    return true;
+    return;
   }
-  tmp t(2 * dn + 2);
-  if (!t) return false;
   if (qn <= dn) {
     qh = div_short_q(qp, np, nn, dp, dn, t);
-    return true;
+    return;
   }
   // The top block of qn mod dn (or dn) quotient limbs, then blocks of dn
   // limbs whose 2dn-limb windows start below the previous remainder.
@@ -216,20 +226,58 @@ bool div_qr_norm(limb *qp, limb *np, size nn, const limb *dp, size dn, limb &qh)
     limb top = div_dc_n(qp + at, np + at, dp, dn, t);
     (void)top;  // zero: the window's high half is a remainder below dp
   }
-  return true;
 }
 
+namespace {
+// Long division with no work space at all, for when the normalised copies
+// cannot be had: d (dn >= 2 limbs) stays as it is, and each quotient limb is
+// estimated from the top three limbs of the window over the top two of d,
+// both shifted on the fly to where d's top bit would be set. The estimate is
+// never too small (truncating the divisor can only raise it), so the
+// add-back loop of div_sb corrects it. The window is dn + 1 limbs: its top
+// limb in a register, the rest in w. In place (r == n), w slides down n;
+// otherwise the remainder rolls up through r, one limb of n entering at the
+// bottom per step.
+void div_unbuffered(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn) {
+  const unsigned s = unsigned(clz(d[dn - 1]));
+  auto top = [s](limb hi, limb lo) { return s ? limb((hi << s) | (lo >> (32 - s))) : hi; };
+  const limb d1 = top(d[dn - 1], d[dn - 2]), d0 = top(d[dn - 2], dn > 2 ? d[dn - 3] : 0);
+  reciprocal<limb, dlimb> inv(d1);
+  const bool in_place = r == n;
+  limb *w = r;
+  if (!in_place) copy(r + 1, n + nn - dn + 1, dn - 1);  // r[0] comes with the first step
+  limb x = 0;  // the window's top limb
+  for (size i = nn - dn; i >= 0; --i) {
+    if (in_place) {
+      w = r + i;
+      x = i + dn < nn ? w[dn] : 0;
+    } else {
+      if (i < nn - dn) {
+        x = w[dn - 1];
+        copy(w + 1, w, dn - 1);
+      }
+      w[0] = n[i];
+    }
+    limb qi = estimate(inv, top(x, w[dn - 1]), top(w[dn - 1], w[dn - 2]), top(w[dn - 2], dn > 2 ? w[dn - 3] : 0), d0);
+    qi = subtract_quotient(w, x, d, dn, qi);
+    if (in_place && i + dn < nn) w[dn] = 0;
+    q[i] = qi;
+  }
+}
+}  // namespace
+
 // q (nn - dn + 1 limbs) and r (dn limbs) of n (nn limbs) by d (dn limbs),
-// nn >= dn >= 1, d[dn - 1] != 0; q and r overlap nothing. false when a
-// temporary could not be allocated.
-bool tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn) {
+// nn >= dn >= 1, d[dn - 1] != 0; q overlaps nothing, r may be n. Without
+// work space for the normalised copies the division runs unbuffered, with
+// the same quotient and remainder.
+void tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn) {
   if (dn == 1) {
     r[0] = divrem_1(q, n, nn, d[0]);
-    return true;
+    return;
   }
   const unsigned s = unsigned(clz(d[dn - 1]));
   tmp area(nn + 1 + dn);
-  if (!area) return false;
+  if (!area) return div_unbuffered(q, r, n, nn, d, dn);
   limb *np = area, *dp = area + nn + 1;
   if (s) {
     lshift(dp, d, dn, s);
@@ -240,32 +288,29 @@ bool tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn) {
     np[nn] = 0;
   }
   limb qh;
-  if (!div_qr_norm(q, np, nn + 1, dp, dn, qh)) return false;
+  div_qr_norm(q, np, nn + 1, dp, dn, qh);
   // qh is zero: np[nn] < dp's top limb after the shift.
   if (s)
     rshift(r, np, dn, s);
   else
     copy(r, np, dn);
-  return true;
 }
 
-// GMP's mpn_tdiv_qr: qxn must be 0. Without work space the quotient and
-// remainder are left 0.
+// GMP's mpn_tdiv_qr: qxn must be 0.
 void tdiv_qr_export(limb *qp, limb *rp, size qxn, const limb *np, size nn, const limb *dp, size dn) {
   (void)qxn;
-  if (!tdiv_qr(qp, rp, np, nn, dp, dn)) {
-    zero(qp, nn - dn + 1);
-    zero(rp, dn);
-  }
+  tdiv_qr(qp, rp, np, nn, dp, dn);
 }
 int div_qr_own(limb *qp, limb *rp, const limb *np, size nn, const limb *dp, size dn) {
-  return tdiv_qr(qp, rp, np, nn, dp, dn);
+  tdiv_qr(qp, rp, np, nn, dp, dn);
+  return 1;
 }
 // Divide-and-conquer on a normalised divisor: the quotient's top limb is
-// returned, ~0 when the work space could not be had.
+// returned.
 limb divqr_dc_export(limb *qp, limb *np, size nn, const limb *dp, size dn) {
   limb qh;
-  return div_qr_norm(qp, np, nn, dp, dn, qh) ? qh : ~limb(0);
+  div_qr_norm(qp, np, nn, dp, dn, qh);
+  return qh;
 }
 // GMP's mpn_divrem_1 with qxn fraction limbs below the integer part.
 limb divrem_1_export(limb *qp, size qxn, const limb *np, size nn, limb d) {

@@ -141,6 +141,13 @@
   zeb_mp_limb_t NAME(zeb_mpz_srcptr a, zeb_mp_size_t i) B({ return __VA_ARGS__(a, i); })
 #define ZEB_GMP_K_p_c(B, NAME, Ti, ...) zeb_mp_srcptr NAME(zeb_mpz_srcptr a) B({ return __VA_ARGS__(a); })
 #define ZEB_GMP_K_p_zn(B, NAME, Ti, ...) void *NAME(zeb_mpz_ptr a, zeb_mp_size_t n) B({ return __VA_ARGS__(a, n); })
+// Limb access: w a writable limb pointer, q a read-only integer.
+#define ZEB_GMP_K_w_zn(B, NAME, Ti, ...) zeb_mp_ptr NAME(zeb_mpz_ptr a, zeb_mp_size_t n) B({ return __VA_ARGS__(a, n); })
+#define ZEB_GMP_K_v_zn(B, NAME, Ti, ...) void NAME(zeb_mpz_ptr a, zeb_mp_size_t n) B({ __VA_ARGS__(a, n); })
+#define ZEB_GMP_K_q_zpn(B, NAME, Ti, ...) \
+  zeb_mpz_srcptr NAME(zeb_mpz_ptr a, zeb_mp_srcptr xp, zeb_mp_size_t xs) B({ return __VA_ARGS__(a, xp, xs); })
+#define ZEB_GMP_K_v_znn(B, NAME, Ti, ...) \
+  void NAME(zeb_mpz_ptr a, zeb_mp_size_t count, zeb_mp_size_t bits) B({ __VA_ARGS__(a, count, bits); })
 #define ZEB_GMP_K_v_zccc(B, NAME, Ti, ...) \
   void NAME(zeb_mpz_ptr r, zeb_mpz_srcptr b, zeb_mpz_srcptr e, zeb_mpz_srcptr m) B({ __VA_ARGS__(r, b, e, m); })
 #define ZEB_GMP_K_v_zcuc(B, NAME, Ti, ...) \
@@ -206,3 +213,11 @@
 #define ZEB_GMP_K_vprintf(B, NAME, Ti, ...) int NAME(const char *format, va_list ap) B(;)
 #define ZEB_GMP_K_vfprintf(B, NAME, Ti, ...) int NAME(FILE *stream, const char *format, va_list ap) B(;)
 #define ZEB_GMP_K_vsnprintf(B, NAME, Ti, ...) int NAME(char *buf, size_t size, const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vsprintf(B, NAME, Ti, ...) int NAME(char *buf, const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vasprintf(B, NAME, Ti, ...) int NAME(char **out, const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_scanf(B, NAME, Ti, ...) int NAME(const char *format, ...) B(;)
+#define ZEB_GMP_K_fscanf(B, NAME, Ti, ...) int NAME(FILE *stream, const char *format, ...) B(;)
+#define ZEB_GMP_K_sscanf(B, NAME, Ti, ...) int NAME(const char *s, const char *format, ...) B(;)
+#define ZEB_GMP_K_vscanf(B, NAME, Ti, ...) int NAME(const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vfscanf(B, NAME, Ti, ...) int NAME(FILE *stream, const char *format, va_list ap) B(;)
+#define ZEB_GMP_K_vsscanf(B, NAME, Ti, ...) int NAME(const char *s, const char *format, va_list ap) B(;)

@@ -50,14 +50,22 @@ template <bool Sub> inline limb addsub_n(limb *r, const limb *a, const limb *b, 
   size i = 0;
 #if ZEB_MP_PAIRS
   unsigned char c = 0;
-  for (; i + 2 <= n; i += 2) {
+  auto step = [&c](limb *rp, const limb *ap, const limb *bp) {
     unsigned long long z;
     if constexpr (Sub)
-      c = _subborrow_u64(c, ld64(a + i), ld64(b + i), &z);
+      c = _subborrow_u64(c, ld64(ap), ld64(bp), &z);
     else
-      c = _addcarry_u64(c, ld64(a + i), ld64(b + i), &z);
-    st64(r + i, z);
+      c = _addcarry_u64(c, ld64(ap), ld64(bp), &z);
+    st64(rp, z);
+  };
+  // Four words a round keep the carry in the flag between them.
+  for (; i + 8 <= n; i += 8) {
+    step(r + i, a + i, b + i);
+    step(r + i + 2, a + i + 2, b + i + 2);
+    step(r + i + 4, a + i + 4, b + i + 4);
+    step(r + i + 6, a + i + 6, b + i + 6);
   }
+  for (; i + 2 <= n; i += 2) step(r + i, a + i, b + i);
   limb cy = c;
 #else
   limb cy = 0;

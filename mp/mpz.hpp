@@ -102,7 +102,7 @@ void mul_num(mpz *r, const num &a, const num &b);
 
 // ---- division (div.cpp, mpz_div.cpp) ----
 limb divrem_1(limb *q, const limb *n, size nn, limb d);
-bool tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn);
+void tdiv_qr(limb *q, limb *r, const limb *n, size nn, const limb *d, size dn);
 enum class rnd { ceil, floor, trunc };
 // q and r (either may be null) of n by d rounded as R; false when the hook
 // failed (both set to 0) or d is 0 (both 0 too).

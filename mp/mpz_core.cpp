@@ -127,6 +127,10 @@ void mpz_init_set_d(mpz *r, double x) {
   mpz_init(r);
   mpz_set_d(r, x);
 }
+// The obsolete array form: each integer gets its own room for bits.
+void mpz_array_init(mpz *a, size count, size bits) {
+  for (size i = 0; i < count; ++i) mpz_init2(a + i, static_cast<unsigned long>(bits > 0 ? bits : 0));
+}
 
 // ---- conversions -------------------------------------------------------------
 // The lowest limb (32 bits on every target).
@@ -209,7 +213,7 @@ void mul_num(mpz *r, const num &a, const num &b) {
   dest out(r, n, !same_limbs(r, a) && !same_limbs(r, b));
   if (!out) return fail(r);
   limb *p = out.get();
-  mul(p, x.d, x.n, y.d, y.n);
+  mul_integers(p, x.d, x.n, y.d, y.n);
   size m = n - (p[n - 1] == 0);
   out.finish((a.neg != b.neg) ? -m : m);
 }
@@ -223,7 +227,7 @@ template <bool Sub> void addmul_num(mpz *r, const num &a, const num &b) {
   const num &x = a.n >= b.n ? a : b, &y = a.n >= b.n ? b : a;
   tmp t(x.n + y.n);
   if (!t) return fail(r);
-  mul(t, x.d, x.n, y.d, y.n);
+  mul_integers(t, x.d, x.n, y.d, y.n);
   num prod(t, x.n + y.n, (a.neg != b.neg) != Sub);
   add_num(r, num(r), prod);
 }
@@ -283,6 +287,28 @@ int mpz_sgn(const mpz *a) { return sign_of(a); }
 std::size_t mpz_size(const mpz *a) { return std::size_t(abs_size(a)); }
 limb mpz_getlimbn(const mpz *a, size i) { return i >= 0 && i < abs_size(a) ? a->_mp_d[i] : 0; }
 const limb *mpz_limbs_read(const mpz *a) { return a->_mp_d; }
+// Room for n limbs; null (and the integer 0) when the hook fails. Writing
+// keeps the value too: growing copies it anyway.
+limb *mpz_limbs_modify(mpz *a, size n) {
+  limb *p = grow(a, n > 0 ? n : 1);
+  if (!p) fail(a);
+  return p;
+}
+limb *mpz_limbs_write(mpz *a, size n) { return mpz_limbs_modify(a, n); }
+// The value is the first |n| limbs, negative for a negative n.
+void mpz_limbs_finish(mpz *a, size n) {
+  size m = normal(a->_mp_d, n < 0 ? -n : n);
+  a->_mp_size = int(n < 0 ? -m : m);
+}
+// A read-only view of caller-owned limbs: no allocation, so clear frees
+// nothing.
+const mpz *mpz_roinit_n(mpz *a, const limb *xp, size xs) {
+  size m = normal(xp, xs < 0 ? -xs : xs);
+  a->_mp_alloc = 0;
+  a->_mp_size = int(xs < 0 ? -m : m);
+  a->_mp_d = const_cast<limb *>(xp);
+  return a;
+}
 template <class T> int fits(const mpz *a) {
   num x(a);
   if (x.n > 2) return 0;

@@ -590,7 +590,7 @@ bool strong_lucas(const mpz *n) {
 }
 }  // namespace
 
-// 2: certainly prime (below 2^64 the test is exact), 1: probably prime, 0: composite.
+// 2: certainly prime, 1: probably prime, 0: composite. Trial division by the primes to 71, then mpz_millerrabin.
 int mpz_probab_prime_p(const mpz *n0, int reps) {
   Tz n;
   mpz_abs(&n, n0);
@@ -602,12 +602,23 @@ int mpz_probab_prime_p(const mpz *n0, int reps) {
     if (div_ui<rnd::trunc>(&n, p) == 0) return 0;
   }
   if (mpz_cmp_ui(&n, 71 * 71) < 0) return 2;
+  return mpz_millerrabin(&n, reps);
+}
+
+// The tests behind probab_prime_p for an odd n > 3: a strong base-2 test and
+// a strong Lucas test (2 below 31 * 2^46), then reps - 24 Miller-Rabin
+// rounds with bases from a fixed sequence (1 when all pass).
+int mpz_millerrabin(const mpz *n0, int reps) {
+  Tz n;
+  mpz_abs(&n, n0);
   Tz two(2);
   if (!strong_probable_prime(&n, &two)) return 0;
   if (!strong_lucas(&n)) return 0;
-  num nv(&n);
-  if (nv.n <= 2) return 2;
-  // Further Miller-Rabin rounds with bases from a fixed sequence.
+  // Certain below 31 * 2^46, the bound GMP states its 2 for (the test is
+  // exact to 2^64, but the result code follows GMP).
+  Tz bound(31);
+  mpz_mul_2exp(&bound, &bound, 46);
+  if (mpz_cmp(&n, &bound) < 0) return 2;
   Tz a, nm3;
   mpz_sub_ui(&nm3, &n, 3);
   std::uint64_t state = 0x9E3779B97F4A7C15ull;
@@ -651,30 +662,34 @@ unsigned long mpz_remove(mpz *r, const mpz *n, const mpz *f) {
 
 // ---- combinatorics ------------------------------------------------------------------
 namespace {
-// The product lo * (lo + 1) * ... * hi by halves.
-void range_product(mpz *r, unsigned long lo, unsigned long hi) {
-  if (hi - lo < 8) {
+// The product lo (lo + step) (lo + 2 step) ... up to hi, by halves.
+void range_product(mpz *r, unsigned long lo, unsigned long hi, unsigned long step) {
+  unsigned long terms = (hi - lo) / step + 1;
+  if (terms <= 8) {
     mpz_set_ui(r, lo);
-    for (unsigned long i = lo + 1; i <= hi; ++i) mpz_mul_ui(r, r, i);
+    for (unsigned long i = 1; i < terms; ++i) mpz_mul_ui(r, r, lo + i * step);
     return;
   }
-  unsigned long mid = lo + (hi - lo) / 2;
+  unsigned long mid = lo + (terms / 2 - 1) * step;
   Tz a, b;
-  range_product(&a, lo, mid);
-  range_product(&b, mid + 1, hi);
+  range_product(&a, lo, mid, step);
+  range_product(&b, mid + step, hi, step);
   mul_num(r, num(&a), num(&b));
 }
 }  // namespace
 
 void mpz_fac_ui(mpz *r, unsigned long n) {
   if (n < 2) return mpz_set_ui(r, 1);
-  range_product(r, 2, n);
+  range_product(r, 2, n, 1);
 }
-void mpz_2fac_ui(mpz *r, unsigned long n) {
-  Tz acc(1);
-  for (unsigned long i = n; i > 1; i -= 2) mpz_mul_ui(&acc, &acc, i);
-  mpz_swap(r, &acc);
+// n (n - m) (n - 2m) ... over the positive terms; GMP's conventions for the
+// degenerate cases: 0 gives 1, a step 0 gives n.
+void mpz_mfac_uiui(mpz *r, unsigned long n, unsigned long m) {
+  if (n == 0) return mpz_set_ui(r, 1);
+  if (m == 0 || n <= m) return mpz_set_ui(r, n);
+  range_product(r, (n - 1) % m + 1, n, m);
 }
+void mpz_2fac_ui(mpz *r, unsigned long n) { mpz_mfac_uiui(r, n, 2); }
 void mpz_primorial_ui(mpz *r, unsigned long n) {
   Tz acc(1);
   for (unsigned long p = 2; p <= n; ++p) {

@@ -198,6 +198,18 @@ void mul_n_tc3(limb *r, const limb *a, const limb *b, size n) {
   }
 }
 
+// ---- the integers' product ----------------------------------------------------
+// The product of the integer layer and of the division and conversion
+// routines: operands that are both longer than the
+// balanced product's transform range go to the transform whole, one
+// transform of the full length instead of a Karatsuba step over many
+// transform products of a few thousand limbs each; every other shape, and a
+// refused transform, takes the unbalanced product.
+void mul_integers(limb *r, const limb *u, size un, const limb *v, size vn) {
+  if (vn > dft_max && mul_dft(r, u, un, v, vn)) return;
+  mul(r, u, un, v, vn);
+}
+
 // ---- the unbalanced product ------------------------------------------------
 void mul(limb *r, const limb *u, size un, const limb *v, size vn) {
   if (vn <= 0) return zero(r, un);

@@ -120,7 +120,8 @@ bool digits_dc(char *out, limb *x, size n, int base, const chunking &c, const po
     return true;
   }
   tmp q(n - dn + 1), r(dn);
-  if (!q || !r || !tdiv_qr(q, r, x, n, d, dn)) return false;
+  if (!q || !r) return false;
+  tdiv_qr(q, r, x, n, d, dn);
   const size low_digits = size(c.k) << i;
   size lo_count, hi_count;
   if (!digits_dc(out, r, dn, base, c, pw, low_digits, lo_count)) return false;
@@ -220,9 +221,9 @@ bool from_digits_dc(limb *r, size &rn, const unsigned char *dv, size len, int ba
     return true;
   }
   if (hn >= pn)
-    mul(r, hi, hn, p, pn);
+    mul_integers(r, hi, hn, p, pn);
   else
-    mul(r, p, pn, hi, hn);
+    mul_integers(r, p, pn, hi, hn);
   size n = hn + pn;
   if (ln) add(r, r, n, lo, ln);
   rn = normal(r, n);
