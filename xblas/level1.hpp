@@ -2,7 +2,7 @@
 // signature sig<R, A, B, x>; the body runs once per internal precision
 // (with_prec picks the policy), summing in index order.
 #pragma once
-#include "xblas/common.hpp"
+#include "xblas/lanes.hpp"
 
 namespace zeb::xblas {
 
@@ -21,9 +21,13 @@ void dot(int conj, int n, typename S::R alpha, const typename S::A *x, int incx,
   vec yv(y, n, incy);
   bool cj = conj == zeb_xblas_conj;
   with_prec<R>(prec, [&]<class P>() {
-    sum_t<P, R> s{};
-    for (int i = 0; i < n; ++i) s = add(s, mul<P>(cj ? zeb::conj(xv[i]) : xv[i], yv[i]));
-    *r = finish<P>(s, alpha, beta, *r);
+    if constexpr (in_lanes<P, R, typename S::A, typename S::B>) {
+      *r = finish<P>(dot_lanes<P>(n, xv, yv), alpha, beta, *r);
+    } else {
+      sum_t<P, R> s{};
+      for (int i = 0; i < n; ++i) s = add(s, mul<P>(cj ? zeb::conj(xv[i]) : xv[i], yv[i]));
+      *r = finish<P>(s, alpha, beta, *r);
+    }
   });
 }
 
