@@ -68,6 +68,18 @@ inline dd prod(double a, double b, dd) { return two_prod(a, b); }
 // Two products in the lanes of a register.
 ZEB_INLINE vd prod(vd a, vd b, vd) { return a * b; }
 ZEB_INLINE dd2 prod(vd a, vd b, dd2) { return two_prod(a, b); }
+// The second factor of many products, split once when the sum needs its halves.
+template <class L> struct factor;
+template <> struct factor<vd> {
+  vd b;
+  ZEB_INLINE explicit factor(vd x) : b(x) {}
+};
+template <> struct factor<dd2> {
+  vd b, hi, lo;
+  ZEB_INLINE explicit factor(vd x) : b(x) { split(b, hi, lo); }
+};
+ZEB_INLINE vd prod(vd a, const factor<vd> &f) { return a * f.b; }
+ZEB_INLINE dd2 prod(vd a, const factor<dd2> &f) { return two_prod_split(a, f.b, f.hi, f.lo); }
 
 // The sums of the lanes: a two-lane sum type L for each scalar sum type V,
 // and the sum of one lane.

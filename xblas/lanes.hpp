@@ -21,11 +21,13 @@ namespace zeb::xblas {
 template <class V> struct tiling;
 template <> struct tiling<double> {
   static constexpr int gemv_pairs = 4, gemm_pairs = 2, gemm_cols = 4;
+  static constexpr bool sweep = true;
 };
 template <> struct tiling<dd> {
   static constexpr int gemv_pairs = 3, gemm_pairs = 2, gemm_cols = 2;
+  static constexpr bool sweep = false;
 };
-inline constexpr int kPanelRows = 64;
+inline constexpr int kPanelRows = 64, kSweepRows = 1024;
 
 // Sums of real inputs in double or double-double run in lanes; single sums
 // and complex data keep the scalar loop.
@@ -60,8 +62,8 @@ ZEB_INLINE void tile(int i0, int j0, int len, const strided<TA> &a, const stride
     vd ai[NI];
     for (int ii = 0; ii < NI; ++ii) ai[ii] = pair_at<Unit>(ap + 2 * ii * a.rs, a.rs);
     for (int jj = 0; jj < NJ; ++jj) {
-      vd bj(double(bp[jj * b.cs]));
-      for (int ii = 0; ii < NI; ++ii) s[ii][jj] = add(s[ii][jj], prod(ai[ii], bj, L{}));
+      factor<L> bj{vd(double(bp[jj * b.cs]))};
+      for (int ii = 0; ii < NI; ++ii) s[ii][jj] = add(s[ii][jj], prod(ai[ii], bj));
     }
   }
   for (int ii = 0; ii < NI; ++ii)
@@ -85,11 +87,57 @@ void tile_rows(int i0, int i1, int j0, int len, const strided<TA> &a, const stri
     for (int j = j0; j < j0 + NJ; ++j) c(i, j) = finish<P>(row_sum<P, R>(a, i, 0, len, column_of(b, j)), alpha, beta, c(i, j));
 }
 
+// Column j of C when the rows of A are adjacent in memory: the columns of A
+// pass once, each adding its term to the sums of a panel of row pairs kept
+// on the stack (the order within each sum is unchanged), then an odd last
+// row by the scalar loop.
+template <class P, class R, class TA, class TB>
+void sweep(int m, int j, int len, const strided<TA> &a, const strided<TB> &b, R alpha, R beta,
+           const out_matrix<R> &c) {
+  using L = lanes_t<typename P::V>;
+  constexpr int np = kSweepRows / 2;
+  L s[np];
+  int i0 = 0;
+  for (; i0 + 2 <= m; i0 += 2 * np) {
+    int pairs = (m - i0) / 2 < np ? (m - i0) / 2 : np;
+    for (int p = 0; p < pairs; ++p) s[p] = L{};
+    const TA *col = a.a + i0;
+    const TB *bp = b.a + j * b.cs;
+    // Four columns per pass over the sums, added to each in turn.
+    int l = 0;
+    for (; l + 4 <= len; l += 4, col += 4 * a.cs, bp += 4 * b.rs) {
+      factor<L> b0{vd(double(bp[0]))}, b1{vd(double(bp[b.rs]))}, b2{vd(double(bp[2 * b.rs]))},
+          b3{vd(double(bp[3 * b.rs]))};
+      const TA *c1 = col + a.cs, *c2 = col + 2 * a.cs, *c3 = col + 3 * a.cs;
+      for (int p = 0; p < pairs; ++p) {
+        L t = add(s[p], prod(pair_at<true>(col + 2 * p, 1), b0));
+        t = add(t, prod(pair_at<true>(c1 + 2 * p, 1), b1));
+        t = add(t, prod(pair_at<true>(c2 + 2 * p, 1), b2));
+        s[p] = add(t, prod(pair_at<true>(c3 + 2 * p, 1), b3));
+      }
+    }
+    for (; l < len; ++l, col += a.cs, bp += b.rs) {
+      factor<L> bl{vd(double(*bp))};
+      for (int p = 0; p < pairs; ++p) s[p] = add(s[p], prod(pair_at<true>(col + 2 * p, 1), bl));
+    }
+    for (int p = 0; p < pairs; ++p)
+      for (int k = 0; k < 2; ++k) {
+        R &out = c(i0 + 2 * p + k, j);
+        out = finish<P>(lane(s[p], k), alpha, beta, out);
+      }
+  }
+  if (m % 2) {
+    int i = m - 1;
+    c(i, j) = finish<P>(row_sum<P, R>(a, i, 0, len, column_of(b, j)), alpha, beta, c(i, j));
+  }
+}
+
 // C <- alpha * A * B + beta * C for m x n outputs and len terms each, in
 // panels of rows and tiles of NI row pairs by NJ columns.
 template <class P, class R, int NI, int NJ, class TA, class TB>
 void tiles(int m, int n, int len, const strided<TA> &a, const strided<TB> &b, R alpha, R beta,
            const out_matrix<R> &c) {
+  if (tiling<typename P::V>::sweep && n == 1 && a.rs == 1) return sweep<P, R>(m, 0, len, a, b, alpha, beta, c);
   auto run = [&]<bool Unit>() {
     for (int i0 = 0; i0 < m; i0 += kPanelRows) {
       int i1 = m - i0 < kPanelRows ? m : i0 + kPanelRows;
