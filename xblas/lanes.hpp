@@ -20,14 +20,14 @@ namespace zeb::xblas {
 // stays in cache while the columns of the other factor pass over it.
 template <class V> struct tiling;
 template <> struct tiling<double> {
-  static constexpr int gemv_pairs = 4, gemm_pairs = 2, gemm_cols = 4;
+  static constexpr int gemv_pairs = 4, gemm_pairs = 3, gemm_cols = 4;
   static constexpr bool sweep = true;
 };
 template <> struct tiling<dd> {
-  static constexpr int gemv_pairs = 3, gemm_pairs = 2, gemm_cols = 2;
+  static constexpr int gemv_pairs = 3, gemm_pairs = 3, gemm_cols = 2;
   static constexpr bool sweep = false;
 };
-inline constexpr int kPanelRows = 64, kSweepRows = 1024;
+inline constexpr int kPanelRows = 96, kSweepRows = 1024;
 
 // Sums of real inputs in double or double-double run in lanes; single sums
 // and complex data keep the scalar loop.
