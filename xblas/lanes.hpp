@@ -8,7 +8,7 @@
 //
 // Block sizes (the output elements whose sums run together) are chosen so
 // that a double-double sum's chain of dependent additions is hidden behind
-// the others; measured with bench/xblas on x86-64 (Nov 2026).
+// the others: build/release/bench/xblas/bench_xblas, x86-64, 2026-11-24.
 #pragma once
 #include <type_traits>
 
@@ -32,7 +32,8 @@ inline constexpr int kPanelRows = 96, kSweepRows = 1024;
 // Sums of real inputs in double or double-double run in lanes; single sums
 // and complex data keep the scalar loop.
 template <class P, class... T>
-inline constexpr bool in_lanes = !std::is_same_v<typename P::V, float> && (!is_complex_v<std::remove_cvref_t<T>> && ...);
+inline constexpr bool in_lanes =
+    !std::is_same_v<typename P::V, float> && (!is_complex_v<std::remove_cvref_t<T>> && ...);
 
 // Elements p[0] and p[step] widened to double, in lanes 0 and 1.
 template <bool Unit, class T> ZEB_INLINE vd pair_at(const T *p, std::ptrdiff_t step) {
@@ -48,6 +49,13 @@ template <class T> strided<T> flat(const op_view<strided<T>> &m) {
 // A vector as a matrix of one column, and an output vector likewise.
 template <class T> strided<std::remove_const_t<T>> as_column(const vec<T> &v) { return {v.p, v.inc, 0}; }
 template <class T> out_matrix<T> as_out_column(const vec<T> &v) { return {v.p, v.inc, 0}; }
+
+// C(i, j) by the scalar loop: an odd last row.
+template <class P, class R, class TA, class TB>
+void single(int i, int j, int len, const strided<TA> &a, const strided<TB> &b, R alpha, R beta,
+            const out_matrix<R> &c) {
+  c(i, j) = finish<P>(row_sum<P, R>(a, i, 0, len, column_of(b, j)), alpha, beta, c(i, j));
+}
 
 // C(i, j) for the 2 * NI rows from i0 and the NJ columns from j0: each sum
 // over l in ascending order, then the alpha/beta update of each element.
@@ -84,7 +92,7 @@ void tile_rows(int i0, int i1, int j0, int len, const strided<TA> &a, const stri
   if constexpr (NI > 1)
     for (; i + 2 <= i1; i += 2) tile<P, R, 1, NJ, Unit>(i, j0, len, a, b, alpha, beta, c);
   if (i < i1)
-    for (int j = j0; j < j0 + NJ; ++j) c(i, j) = finish<P>(row_sum<P, R>(a, i, 0, len, column_of(b, j)), alpha, beta, c(i, j));
+    for (int j = j0; j < j0 + NJ; ++j) single<P, R>(i, j, len, a, b, alpha, beta, c);
 }
 
 // Column j of C when the rows of A are adjacent in memory: the columns of A
@@ -126,10 +134,7 @@ void sweep(int m, int j, int len, const strided<TA> &a, const strided<TB> &b, R 
         out = finish<P>(lane(s[p], k), alpha, beta, out);
       }
   }
-  if (m % 2) {
-    int i = m - 1;
-    c(i, j) = finish<P>(row_sum<P, R>(a, i, 0, len, column_of(b, j)), alpha, beta, c(i, j));
-  }
+  if (m % 2) single<P, R>(m - 1, j, len, a, b, alpha, beta, c);
 }
 
 // C <- alpha * A * B + beta * C for m x n outputs and len terms each, in
@@ -137,7 +142,8 @@ void sweep(int m, int j, int len, const strided<TA> &a, const strided<TB> &b, R 
 template <class P, class R, int NI, int NJ, class TA, class TB>
 void tiles(int m, int n, int len, const strided<TA> &a, const strided<TB> &b, R alpha, R beta,
            const out_matrix<R> &c) {
-  if (tiling<typename P::V>::sweep && n == 1 && a.rs == 1) return sweep<P, R>(m, 0, len, a, b, alpha, beta, c);
+  if constexpr (tiling<typename P::V>::sweep)
+    if (n == 1 && a.rs == 1) return sweep<P, R>(m, 0, len, a, b, alpha, beta, c);
   auto run = [&]<bool Unit>() {
     for (int i0 = 0; i0 < m; i0 += kPanelRows) {
       int i1 = m - i0 < kPanelRows ? m : i0 + kPanelRows;

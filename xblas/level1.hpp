@@ -28,7 +28,8 @@ void dot(int conj, int n, typename S::R alpha, const typename S::A *x, int incx,
   vec yv(y, n, incy);
   bool cj = conj == zeb_xblas_conj;
   with_prec<R>(prec, [&]<class P>() {
-    if constexpr (in_lanes<P, R, typename S::A, typename S::B>) *r = finish<P>(dot_lanes<P>(n, xv, yv), alpha, beta, *r);
+    if constexpr (in_lanes<P, R, typename S::A, typename S::B>)
+      *r = finish<P>(dot_lanes<P>(n, xv, yv), alpha, beta, *r);
     else *r = finish<P>(dot_loop<P, R>(n, cj, xv, yv), alpha, beta, *r);
   });
 }

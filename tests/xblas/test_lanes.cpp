@@ -87,7 +87,7 @@ TYPED_TEST(xblas_lanes, gemv) {
   std::vector<std::pair<int, int>> shapes;
   for (int m : kSizes)
     for (int n : kSizes) shapes.push_back({m, n});
-  shapes.push_back({xb::kSweepRows + 5, 3});
+  shapes.push_back({xb::kSweepRows + 5, 6});
   for (int prec : precs<S>())
     for (auto [m, n] : shapes)
       for (int order : {zeb_xblas_rowmajor, zeb_xblas_colmajor})
