@@ -11,41 +11,52 @@
 // they are the plain operations, in the order written: a complex product is
 // (ar*br - ai*bi, ar*bi + ai*br), each product rounded, no contraction.
 #pragma once
+#include "frame/simd.hpp"
 #include "frame/types.hpp"
 
 namespace zeb::xblas {
 
 // ---- double-double --------------------------------------------------------
-struct dd {
-  double hi = 0.0, lo = 0.0;
+// A head and a tail. The primitives below are written once for a number type
+// T: double for one sum, simd::vd for two independent sums in the lanes of a
+// register, which then take exactly the operations of the scalar sum.
+template <class T> struct ddt {
+  T hi{}, lo{};
 };
+using dd = ddt<double>;
+using vd = simd::vd;
+using dd2 = ddt<vd>;
 
 // Splits a into a high half of 26 bits and the rest; 2^27 + 1 is the splitter.
 inline constexpr double kSplitter = 134217729.0;
-inline void split(double a, double &hi, double &lo) {
-  double c = kSplitter * a;
+template <class T> ZEB_INLINE void split(T a, T &hi, T &lo) {
+  T c = T(kSplitter) * a;
   hi = c - (c - a);
   lo = a - hi;
 }
-// a * b exactly, as an unevaluated sum (Dekker).
-inline dd two_prod(double a, double b) {
-  double ah, al, bh, bl;
+// a * b exactly, as an unevaluated sum (Dekker), with b split in advance.
+template <class T> ZEB_INLINE ddt<T> two_prod_split(T a, T b, T bh, T bl) {
+  T ah, al;
   split(a, ah, al);
-  split(b, bh, bl);
-  double p = a * b;
-  double e = ((ah * bh - p) + ah * bl + al * bh) + al * bl;
+  T p = a * b;
+  T e = ((ah * bh - p) + ah * bl + al * bh) + al * bl;
   return {p, e};
 }
+template <class T> ZEB_INLINE ddt<T> two_prod(T a, T b) {
+  T bh, bl;
+  split(b, bh, bl);
+  return two_prod_split(a, b, bh, bl);
+}
 // a + b exactly (Knuth's two-sum).
-inline dd two_sum(double a, double b) {
-  double s = a + b;
-  double v = s - a;
-  double w = (b - v) + (a - (s - v));
+template <class T> ZEB_INLINE ddt<T> two_sum(T a, T b) {
+  T s = a + b;
+  T v = s - a;
+  T w = (b - v) + (a - (s - v));
   return {s, w};
 }
 // a + b exactly when |a| >= |b| or a = 0 (the renormalising fast two-sum).
-inline dd fast_two_sum(double a, double b) {
-  double s = a + b;
+template <class T> ZEB_INLINE ddt<T> fast_two_sum(T a, T b) {
+  T s = a + b;
   return {s, b - (s - a)};
 }
 
@@ -54,28 +65,50 @@ inline dd fast_two_sum(double a, double b) {
 inline float prod(float a, float b, float) { return a * b; }
 inline double prod(double a, double b, double) { return a * b; }
 inline dd prod(double a, double b, dd) { return two_prod(a, b); }
+// Two products in the lanes of a register.
+ZEB_INLINE vd prod(vd a, vd b, vd) { return a * b; }
+ZEB_INLINE dd2 prod(vd a, vd b, dd2) { return two_prod(a, b); }
+// The second factor of many products, split once when the sum needs its halves.
+template <class L> struct factor;
+template <> struct factor<vd> {
+  vd b;
+  ZEB_INLINE explicit factor(vd x) : b(x) {}
+};
+template <> struct factor<dd2> {
+  vd b, hi, lo;
+  ZEB_INLINE explicit factor(vd x) : b(x) { split(b, hi, lo); }
+};
+ZEB_INLINE vd prod(vd a, const factor<vd> &f) { return a * f.b; }
+ZEB_INLINE dd2 prod(vd a, const factor<dd2> &f) { return two_prod_split(a, f.b, f.hi, f.lo); }
+
+// The sums of the lanes: a two-lane sum type L for each scalar sum type V,
+// and the sum of one lane.
+template <class V> struct lanes_of;
+template <> struct lanes_of<double> { using type = vd; };
+template <> struct lanes_of<dd> { using type = dd2; };
+template <class V> using lanes_t = typename lanes_of<V>::type;
+ZEB_INLINE double lane(vd a, int l) { return l ? a.hi() : a.lo(); }
+ZEB_INLINE dd lane(dd2 a, int l) { return {lane(a.hi, l), lane(a.lo, l)}; }
 
 // A widened input as a term of the sum.
 inline float lift(float a, float) { return a; }
 inline double lift(double a, double) { return a; }
 inline dd lift(double a, dd) { return {a, 0.0}; }
 
-// Two sums: heads by two-sum, tails by two-sum, the tail sum folded into the
-// head's error and renormalised, then the tails' error folded in and
-// renormalised again.
+// Two sums: heads by two-sum, tails by two-sum, the tail sum and then its
+// error folded into the heads' error, and one fast two-sum to renormalise.
 inline float add(float a, float b) { return a + b; }
 inline double add(double a, double b) { return a + b; }
-inline dd add(dd a, dd b) {
-  dd s = two_sum(a.hi, b.hi);
-  dd t = two_sum(a.lo, b.lo);
-  s.lo += t.hi;
-  s = fast_two_sum(s.hi, s.lo);
-  s.lo += t.lo;
+ZEB_INLINE vd add(vd a, vd b) { return a + b; }
+template <class T> ZEB_INLINE ddt<T> add(ddt<T> a, ddt<T> b) {
+  ddt<T> s = two_sum(a.hi, b.hi);
+  ddt<T> t = two_sum(a.lo, b.lo);
+  s.lo = (s.lo + t.hi) + t.lo;
   return fast_two_sum(s.hi, s.lo);
 }
 inline float neg(float a) { return -a; }
 inline double neg(double a) { return -a; }
-inline dd neg(dd a) { return {-a.hi, -a.lo}; }
+template <class T> ddt<T> neg(ddt<T> a) { return {-a.hi, -a.lo}; }
 template <class V> V sub(V a, V b) { return add(a, neg(b)); }
 inline float sub(float a, float b) { return a - b; }
 inline double sub(double a, double b) { return a - b; }

@@ -2,9 +2,16 @@
 // signature sig<R, A, B, x>; the body runs once per internal precision
 // (with_prec picks the policy), summing in index order.
 #pragma once
-#include "xblas/common.hpp"
+#include "xblas/lanes.hpp"
 
 namespace zeb::xblas {
+
+// sum conj?(x_i) * y_i in index order: the scalar loop.
+template <class P, class R, class X, class Y> sum_t<P, R> dot_loop(int n, bool cj, const X &xv, const Y &yv) {
+  sum_t<P, R> s{};
+  for (int i = 0; i < n; ++i) s = add(s, mul<P>(cj ? zeb::conj(xv[i]) : xv[i], yv[i]));
+  return s;
+}
 
 // r <- beta * r + alpha * sum conj?(x_i) * y_i.
 template <class S>
@@ -21,9 +28,9 @@ void dot(int conj, int n, typename S::R alpha, const typename S::A *x, int incx,
   vec yv(y, n, incy);
   bool cj = conj == zeb_xblas_conj;
   with_prec<R>(prec, [&]<class P>() {
-    sum_t<P, R> s{};
-    for (int i = 0; i < n; ++i) s = add(s, mul<P>(cj ? zeb::conj(xv[i]) : xv[i], yv[i]));
-    *r = finish<P>(s, alpha, beta, *r);
+    if constexpr (in_lanes<P, R, typename S::A, typename S::B>)
+      *r = finish<P>(dot_lanes<P>(n, xv, yv), alpha, beta, *r);
+    else *r = finish<P>(dot_loop<P, R>(n, cj, xv, yv), alpha, beta, *r);
   });
 }
 

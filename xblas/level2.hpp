@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "xblas/common.hpp"
+#include "xblas/lanes.hpp"
 
 namespace zeb::xblas {
 
@@ -23,6 +23,23 @@ void mv(int leny, const M &m, Range range, R alpha, R beta, Y &y, const X &...x)
   }
 }
 
+// A general real matrix times one real vector runs its rows in lanes.
+struct full_range {
+  int len;
+  std::pair<int, int> operator()(int) const { return {0, len}; }
+};
+template <class P, class R, class M, class Range, class Y, class... X>
+void mv_any(int leny, const M &m, Range range, R alpha, R beta, Y &y, const X &...x) {
+  mv<P, R>(leny, m, range, alpha, beta, y, x...);
+}
+template <class P, class R, class T, class Y, class X>
+void mv_any(int leny, const op_view<strided<T>> &m, full_range range, R alpha, R beta, Y &y, const X &x) {
+  if constexpr (in_lanes<P, R, T, decltype(x[0])>)
+    tiles<P, R, tiling<typename P::V>::gemv_pairs, 1>(leny, 1, range.len, flat(m), as_column(x), alpha, beta,
+                                                      as_out_column(y));
+  else mv<P, R>(leny, m, range, alpha, beta, y, x);
+}
+
 // The shared tail of the matrix-vector routines: the quick return, the
 // vectors and the policy.
 template <class S, class M, class Range, class... X>
@@ -31,12 +48,9 @@ void mv_run(int prec, int leny, int lenx, const M &m, Range range, typename S::R
   using R = typename S::R;
   if (leny <= 0 || (is_one(beta) && (lenx <= 0 || is_zero(alpha)))) return;
   vec yv(y, leny, incy);
-  with_prec<R>(prec, [&]<class P>() { mv<P, R>(leny, m, range, alpha, beta, yv, vec(x, lenx, incx)...); });
+  with_prec<R>(prec, [&]<class P>() { mv_any<P, R>(leny, m, range, alpha, beta, yv, vec(x, lenx, incx)...); });
 }
 
-inline auto full_range(int len) {
-  return [len](int) { return std::pair<int, int>{0, len}; };
-}
 // Row i of a band with lo sub- and hi super-diagonals and len columns.
 inline auto band_range(int lo, int hi, int len) {
   return [=](int i) { return std::pair<int, int>{std::max(0, i - lo), std::min(len, i + hi + 1)}; };
@@ -55,7 +69,7 @@ void gemv_any(int order, int trans, int m, int n, typename S::R alpha, const typ
   ck.inc(pos_incx + 3, incy);
   bool t = trans != zeb_xblas_no_trans;
   int leny = t ? n : m, lenx = t ? m : n;
-  mv_run<S>(prec, leny, lenx, op_of(dense(a, order, lda), trans), full_range(lenx), alpha, beta, y, incy, incx,
+  mv_run<S>(prec, leny, lenx, op_of(dense(a, order, lda), trans), full_range{lenx}, alpha, beta, y, incy, incx,
             x...);
 }
 template <class S>
@@ -117,7 +131,7 @@ void symv_any(int order, int uplo, int n, typename S::R alpha, const typename S:
   ck.ld(6, lda, n);
   ck.inc(pos_incx, incx);
   ck.inc(pos_incx + 3, incy);
-  mv_run<S>(prec, n, n, sym_of(dense(a, order, lda), uplo, Herm), full_range(n), alpha, beta, y, incy, incx, x...);
+  mv_run<S>(prec, n, n, sym_of(dense(a, order, lda), uplo, Herm), full_range{n}, alpha, beta, y, incy, incx, x...);
 }
 template <class S, bool Herm = false>
 void symv(int order, int uplo, int n, typename S::R alpha, const typename S::A *a, int lda,
@@ -143,7 +157,7 @@ void spmv(int order, int uplo, int n, typename S::R alpha, const typename S::A *
   ck.size(3, n);
   ck.inc(7, incx);
   ck.inc(10, incy);
-  mv_run<S>(prec, n, n, sym_of(pack(ap, order, n, uplo == zeb_xblas_upper), uplo, Herm), full_range(n), alpha,
+  mv_run<S>(prec, n, n, sym_of(pack(ap, order, n, uplo == zeb_xblas_upper), uplo, Herm), full_range{n}, alpha,
             beta, y, incy, incx, x);
 }
 

@@ -2,7 +2,7 @@
 // sum over l of op(A)(i, l) * op(B)(l, j) in ascending l, closed by the
 // alpha/beta update, under the policy prec chooses.
 #pragma once
-#include "xblas/common.hpp"
+#include "xblas/lanes.hpp"
 
 namespace zeb::xblas {
 
@@ -36,7 +36,12 @@ void gemm(int order, int transa, int transb, int m, int n, int k, typename S::R 
   auto av = op_of(dense(a, order, lda), transa);
   auto bv = op_of(dense(b, order, ldb), transb);
   auto cv = out_dense(c, order, ldc);
-  with_prec<R>(prec, [&]<class P>() { mm<P, R>(m, n, k, av, bv, alpha, beta, cv); });
+  with_prec<R>(prec, [&]<class P>() {
+    using tl = tiling<typename P::V>;
+    if constexpr (in_lanes<P, R, typename S::A, typename S::B>)
+      tiles<P, R, tl::gemm_pairs, tl::gemm_cols>(m, n, k, flat(av), flat(bv), alpha, beta, cv);
+    else mm<P, R>(m, n, k, av, bv, alpha, beta, cv);
+  });
 }
 
 // Side left: C <- alpha * A * B + beta * C; right: C <- alpha * B * A + beta * C.

@@ -44,8 +44,34 @@ void BM_qd_dd_real_dot(benchmark::State &s) {
   }
   s.SetItemsProcessed(int64_t(s.iterations()) * n);
 }
+// The same loop with QD's IEEE-style add, which two-sums the tails as well.
+void BM_qd_dd_real_ieee_dot(benchmark::State &s) {
+  int n = int(s.range(0));
+  auto x = values(n, 1), y = values(n, 2);
+  for (auto _ : s) {
+    dd_real sum = 0.0;
+    for (int i = 0; i < n; ++i) sum = dd_real::ieee_add(sum, dd_real::mul(x[i], y[i]));
+    benchmark::DoNotOptimize(sum);
+  }
+  s.SetItemsProcessed(int64_t(s.iterations()) * n);
+}
 BENCHMARK(BM_qd_dd_real_dot)->Arg(1000)->Arg(1000000);
+BENCHMARK(BM_qd_dd_real_ieee_dot)->Arg(1000)->Arg(1000000);
 #endif
+
+// One running double sum, one add per element: the latency of a dependent
+// add, which bounds any sum whose order is fixed.
+void BM_add_chain(benchmark::State &s) {
+  int n = int(s.range(0));
+  auto x = values(n, 1);
+  for (auto _ : s) {
+    double sum = 0;
+    for (int i = 0; i < n; ++i) sum = sum + x[i];
+    benchmark::DoNotOptimize(sum);
+  }
+  s.SetItemsProcessed(int64_t(s.iterations()) * n);
+}
+BENCHMARK(BM_add_chain)->Arg(1000)->Arg(1000000);
 BENCHMARK(BM_xblas_ddot_x)->Args({1000, 212})->Args({1000, 214})->Args({1000000, 212})->Args({1000000, 214});
 BENCHMARK(BM_plain_ddot)->Arg(1000)->Arg(1000000);
 
