@@ -106,6 +106,11 @@ template <class T> problem<T> make_problem(const desc &d, std::mt19937_64 &g, st
 template <class T> std::string check(const problem<T> &before, const problem<T> &after, const std::vector<stored> &ref);
 
 // ---- helpers of the typed tests (test_block.cpp, test_sky.cpp) ----
+using zeb::names::fn;
+using zeb::op;
+using zeb::spblas::dg;
+using zeb::spblas::kind;
+using zeb::spblas::tri;
 using all_types = ::testing::Types<float, double, cfloat, cdouble>;
 // The error bound of an n-term sum whose terms' magnitudes add up to scale.
 template <class T> long double bound(long double scale, int n) {

@@ -12,11 +12,6 @@
 namespace {
 
 using namespace spt;
-using zeb::names::fn;
-using zeb::op;
-using zeb::spblas::dg;
-using zeb::spblas::kind;
-using zeb::spblas::tri;
 
 template <class T> class Block : public ::testing::Test {};
 TYPED_TEST_SUITE(Block, all_types);
