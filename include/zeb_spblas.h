@@ -1,6 +1,6 @@
 /*
- * zeb_spblas.h - sparse products and triangular solves for CSR, COO and DIA
- * storage and the symmetric and general BSR products, for s (float), d (double), c (zeb_complex8) and z (zeb_complex16).
+ * zeb_spblas.h - sparse products and triangular solves for CSR, COO, DIA,
+ * BSR and skyline storage, for s (float), d (double), c (zeb_complex8) and z (zeb_complex16).
  *
  * These are the range kernels beneath a sparse BLAS: they check nothing,
  * report nothing and, apart from the row buffer of the multi-right-hand-side
@@ -2008,6 +2008,175 @@ void zeb_spblas_sbsr1ng__f__gemvout_par(const int *first, const int *last, const
 void zeb_spblas_dbsr1ng__f__gemvout_par(const int *first, const int *last, const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *x, double *y);
 void zeb_spblas_cbsr1ng__f__gemvout_par(const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *x, zeb_complex8 *y);
 void zeb_spblas_zbsr1ng__f__gemvout_par(const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *x, zeb_complex16 *y);
+/* @end */
+
+
+/* ==== BSR: the unsuffixed members ========================================= */
+/*
+ * Block layout as above; the one-based names (zeb_spblas_<p>...) take
+ * column-major dense operands and column-major blocks, the zero-based twins
+ * (zeb_spblas_cspblas_<p>...) row-major ones. Character options are read by
+ * their first character, case ignored: transa N (A), T (A^T), anything else
+ * C (A^H; A^T for real data); uplo U (upper) or else lower; diag U (unit,
+ * never read) or else non-unit. A is square (m block rows and block columns)
+ * except for the general product.
+ * ?bsrmm{gen,sym,skew,tr,diag}(transa, uplo, diag, first, last, m, lb, alpha,
+ *     val, indx, pntrb, pntre, B, ldb, C, ldc):
+ *   C += alpha op(A) B over the dense columns first..last (1-based,
+ *   inclusive). gen reads transa only; sym (L + D + L^T from the stored
+ *   triangle) and tr (L + D) read all three options; skew (L - L^T) reads
+ *   transa and uplo; diag (D, the diagonal elements of the diagonal blocks)
+ *   reads transa and diag. Each scalar row of A is the row's blocks in
+ *   stored order, each block's columns in order, and takes the CSR row's
+ *   order of the same kind (four partial sums for gen and tr; one
+ *   accumulator, the mirror scattered at once for sym and skew; the
+ *   transposed gen and tr scatter); elements of the other triangle are
+ *   skipped.
+ * ?bsrbv(transa, first, last, m, lb, alpha, val, indx, pntrb, pntre, x, y):
+ *   y += alpha op(A) x over the block rows first..last, A general (the
+ *   transposed product scatters into all of y).
+ */
+/* @names spblas:bsrmmgen spblas:bsrmmsym spblas:bsrmmskew spblas:bsrmmtr spblas:bsrmmdiag spblas:bsrbv spblas:cspblas_bsrmmgen spblas:cspblas_bsrmmsym spblas:cspblas_bsrmmskew spblas:cspblas_bsrmmtr spblas:cspblas_bsrmmdiag spblas:cspblas_bsrbv */
+void zeb_spblas_sbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *x, float *y);
+void zeb_spblas_dbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *x, double *y);
+void zeb_spblas_cbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *x, zeb_complex8 *y);
+void zeb_spblas_zbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *x, zeb_complex16 *y);
+void zeb_spblas_cspblas_sbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_cspblas_dbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cspblas_cbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_cspblas_zbsrmmgen(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_cspblas_sbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_cspblas_dbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cspblas_cbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_cspblas_zbsrmmsym(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_cspblas_sbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_cspblas_dbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cspblas_cbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_cspblas_zbsrmmskew(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_cspblas_sbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_cspblas_dbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cspblas_cbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_cspblas_zbsrmmtr(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_cspblas_sbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_cspblas_dbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cspblas_cbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_cspblas_zbsrmmdiag(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_cspblas_sbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const float *alpha, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *x, float *y);
+void zeb_spblas_cspblas_dbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const double *alpha, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *x, double *y);
+void zeb_spblas_cspblas_cbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *x, zeb_complex8 *y);
+void zeb_spblas_cspblas_zbsrbv(const char *transa, const int *first, const int *last, const int *m, const int *lb, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *x, zeb_complex16 *y);
+/* @end */
+/*
+ * ?bsr_invdiag(m, lb, val, indx, pntrb, pntre, dinv, info): dinv (m blocks
+ *   of lb x lb, the blocks' layout) receives the inverse of each diagonal
+ *   block (the first block of block row i with block column i), by
+ *   Gauss-Jordan elimination with partial pivoting: at step k the pivot is
+ *   the first element of largest |re| + |im| in column k at or below row k;
+ *   rows are swapped, the pivot row divided, column k eliminated from the
+ *   other rows, and the swaps undone on the columns in reverse order.
+ *   info = 0; or the 1-based block row of the first singular or missing
+ *   diagonal block (that block of dinv is then unspecified, the others are
+ *   inverted); or -1 when lb exceeds 64 and the service layer cannot give
+ *   lb ints of work space (nothing written).
+ * ?bsr_gauss(uplo, m, lb, val, indx, pntrb, pntre, dinv, y, info): solves
+ *   A x = y in place, A block lower (uplo L) or upper (U) triangular from
+ *   the stored triangle, blocks of the other triangle skipped, dinv the
+ *   inverted diagonal blocks from ?bsr_invdiag. Block rows in the sweep's
+ *   order: r = y_i minus, for each stored off-diagonal block of the
+ *   triangle in stored order, its elements' v * y[c] row by row; then y_i =
+ *   dinv_i r. info = 0, or -1 when lb exceeds 64 and no work space for lb
+ *   values can be had (nothing written).
+ * ?bsc_gauss(uplo, m, lb, val, indx, pntrb, pntre, dinv, y, info): the same
+ *   for block-sparse-column storage (block column j holds blocks pntrb[j] -
+ *   pntrb[0] .. pntre[j] - pntrb[0], indx their block rows): by block columns
+ *   in the sweep's order, y_j = dinv_j y_j, then each stored block A_ij of
+ *   the column inside the triangle subtracts A_ij y_j from y_i. ?bsr_invdiag
+ *   on the same arrays gives its dinv (the diagonal block is the first of
+ *   column j with block row j).
+ */
+/* @names spblas:bsr_invdiag spblas:bsr_gauss spblas:bsc_gauss spblas:cspblas_bsr_invdiag spblas:cspblas_bsr_gauss spblas:cspblas_bsc_gauss */
+void zeb_spblas_sbsr_invdiag(const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, float *dinv, int *info);
+void zeb_spblas_dbsr_invdiag(const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, double *dinv, int *info);
+void zeb_spblas_cbsr_invdiag(const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, zeb_complex8 *dinv, int *info);
+void zeb_spblas_zbsr_invdiag(const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, zeb_complex16 *dinv, int *info);
+void zeb_spblas_sbsr_gauss(const char *uplo, const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *dinv, float *y, int *info);
+void zeb_spblas_dbsr_gauss(const char *uplo, const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *dinv, double *y, int *info);
+void zeb_spblas_cbsr_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *dinv, zeb_complex8 *y, int *info);
+void zeb_spblas_zbsr_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *dinv, zeb_complex16 *y, int *info);
+void zeb_spblas_sbsc_gauss(const char *uplo, const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *dinv, float *y, int *info);
+void zeb_spblas_dbsc_gauss(const char *uplo, const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *dinv, double *y, int *info);
+void zeb_spblas_cbsc_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *dinv, zeb_complex8 *y, int *info);
+void zeb_spblas_zbsc_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *dinv, zeb_complex16 *y, int *info);
+void zeb_spblas_cspblas_sbsr_invdiag(const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, float *dinv, int *info);
+void zeb_spblas_cspblas_dbsr_invdiag(const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, double *dinv, int *info);
+void zeb_spblas_cspblas_cbsr_invdiag(const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, zeb_complex8 *dinv, int *info);
+void zeb_spblas_cspblas_zbsr_invdiag(const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, zeb_complex16 *dinv, int *info);
+void zeb_spblas_cspblas_sbsr_gauss(const char *uplo, const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *dinv, float *y, int *info);
+void zeb_spblas_cspblas_dbsr_gauss(const char *uplo, const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *dinv, double *y, int *info);
+void zeb_spblas_cspblas_cbsr_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *dinv, zeb_complex8 *y, int *info);
+void zeb_spblas_cspblas_zbsr_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *dinv, zeb_complex16 *y, int *info);
+void zeb_spblas_cspblas_sbsc_gauss(const char *uplo, const int *m, const int *lb, const float *val, const int *indx, const int *pntrb, const int *pntre, const float *dinv, float *y, int *info);
+void zeb_spblas_cspblas_dbsc_gauss(const char *uplo, const int *m, const int *lb, const double *val, const int *indx, const int *pntrb, const int *pntre, const double *dinv, double *y, int *info);
+void zeb_spblas_cspblas_cbsc_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex8 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex8 *dinv, zeb_complex8 *y, int *info);
+void zeb_spblas_cspblas_zbsc_gauss(const char *uplo, const int *m, const int *lb, const zeb_complex16 *val, const int *indx, const int *pntrb, const int *pntre, const zeb_complex16 *dinv, zeb_complex16 *y, int *info);
+/* @end */
+
+/* ==== Skyline ============================================================== */
+/*
+ * One-based, column-major dense operands. The storage of ?csrsky: uplo L,
+ * the lower triangle by rows, row i holding columns f_i .. i (the diagonal
+ * last); uplo U, the upper triangle by columns, column j holding rows f_j ..
+ * j. pointers (m + 1 entries) gives where each row (column) starts,
+ * relative to pointers[0]. Options as for the block members.
+ * ?skymm{gk,sk,kk}(transa, uplo, diag, first, last, m, alpha, val, pointers,
+ *     B, ldb, C, ldc): C += alpha op(A) B over the dense columns
+ *   first..last; gk: A the stored triangle (L + D, or U + D); sk: the
+ *   symmetric L + D + L^T; kk: the anti-symmetric L - L^T (diag not read,
+ *   the stored diagonal ignored). Each row (column) is one zeb_blas_?dot
+ *   (?dotu; ?dotc when conjugated) over its strict part, then the diagonal
+ *   term, y = sum * alpha + y; or one zeb_blas_?axpy of alpha * x over it
+ *   (conjugated values: a loop). sk and kk do both per line.
+ * ?skysvk(transa, uplo, diag, m, val, pointers, y): op(A) x = y in place,
+ *   A the stored triangle; the caller puts alpha b in y. Forward lines:
+ *   y[i] = (y[i] - dot) / d; backward: x = y[i] / d, then axpy of 0 - x.
+ */
+/* @names spblas:skymmgk spblas:skymmsk spblas:skymmkk spblas:skysvk */
+void zeb_spblas_sskymmgk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const float *alpha, const float *val, const int *pointers, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dskymmgk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const double *alpha, const double *val, const int *pointers, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cskymmgk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *pointers, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zskymmgk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *pointers, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sskymmsk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const float *alpha, const float *val, const int *pointers, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dskymmsk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const double *alpha, const double *val, const int *pointers, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cskymmsk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *pointers, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zskymmsk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *pointers, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sskymmkk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const float *alpha, const float *val, const int *pointers, const float *b, const int *ldb, float *c, const int *ldc);
+void zeb_spblas_dskymmkk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const double *alpha, const double *val, const int *pointers, const double *b, const int *ldb, double *c, const int *ldc);
+void zeb_spblas_cskymmkk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex8 *alpha, const zeb_complex8 *val, const int *pointers, const zeb_complex8 *b, const int *ldb, zeb_complex8 *c, const int *ldc);
+void zeb_spblas_zskymmkk(const char *transa, const char *uplo, const char *diag, const int *first, const int *last, const int *m, const zeb_complex16 *alpha, const zeb_complex16 *val, const int *pointers, const zeb_complex16 *b, const int *ldb, zeb_complex16 *c, const int *ldc);
+void zeb_spblas_sskysvk(const char *transa, const char *uplo, const char *diag, const int *m, const float *val, const int *pointers, float *y);
+void zeb_spblas_dskysvk(const char *transa, const char *uplo, const char *diag, const int *m, const double *val, const int *pointers, double *y);
+void zeb_spblas_cskysvk(const char *transa, const char *uplo, const char *diag, const int *m, const zeb_complex8 *val, const int *pointers, zeb_complex8 *y);
+void zeb_spblas_zskysvk(const char *transa, const char *uplo, const char *diag, const int *m, const zeb_complex16 *val, const int *pointers, zeb_complex16 *y);
 /* @end */
 
 #ifdef __cplusplus

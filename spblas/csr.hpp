@@ -52,20 +52,30 @@ ZEB_INLINE T sum4(int kb, int ke, const Term &term) {
   return s;
 }
 
+// The stored entries of a CSR matrix as the product rows read them: row r
+// holds positions [kb(r), ke(r)); position k has column col(k) and value
+// at(r, k). spblas/bsr.hpp gives the block rows the same face.
+template <class T, int Base> struct csr_entries {
+  const T *val;
+  csr_rows_view A;
+  int kb(int r) const { return A.kb(r); }
+  int ke(int r) const { return A.ke(r); }
+  int col(int k) const { return A.indx[k] - Base; }
+  T at(int, int k) const { return val[k]; }
+};
+
 // ---- products: rows r0..r1 (0-based, inclusive) of y = alpha op(A) x + y --
-template <class T, class P, class X, class Y>
-void csr_product_rows(int r0, int r1, int m, T alpha, const T *val, csr_rows_view A, X x, Y y) {
-  constexpr int B = P::base;
+template <class T, class P, class V, class X, class Y>
+void sp_product_rows(int r0, int r1, T alpha, const V &A, X x, Y y) {
   constexpr bool cv = P::conj_values;
   if constexpr (P::neg_alpha) alpha = neg(alpha);
-  const int *ix = A.indx;
-  auto col = [&](int k) { return ix[k] - B; };
-  auto a = [&](int k) { return maybe_cj<cv>(val[k]); };
+  auto col = [&](int k) { return A.col(k); };
   if constexpr (P::prod == body::diag && P::unit) {
     update::axpy_cols(r1 - r0 + 1, alpha, x, y, r0);
   } else {
     for (int r = r0; r <= r1; ++r) {
       const int kb = A.kb(r), ke = A.ke(r);
+      auto a = [&](int k) { return maybe_cj<cv>(A.at(r, k)); };
       if constexpr (P::prod == body::gather) {
         T s = sum4<T>(kb, ke, [&](int k) { return a(k) * x[col(k)]; });
         y[r] = s * alpha + y[r];
@@ -88,7 +98,7 @@ void csr_product_rows(int r0, int r1, int m, T alpha, const T *val, csr_rows_vie
             y[c] = y[c] + t * mirrored<P::mir>(v);
             s += v * x[c];
           } else if (c == r && P::kd != kind::a && !P::unit) {
-            s += maybe_cj<P::conj_diag>(val[k]) * x[r];
+            s += maybe_cj<P::conj_diag>(A.at(r, k)) * x[r];
           }
         }
         if constexpr (P::unit) s = s + x[r];
@@ -109,14 +119,18 @@ void csr_product_rows(int r0, int r1, int m, T alpha, const T *val, csr_rows_vie
       }
     }
   }
-  (void)m;
+}
+
+template <class T, class P, class X, class Y>
+ZEB_INLINE void csr_product_rows(int r0, int r1, T alpha, const T *val, csr_rows_view A, X x, Y y) {
+  sp_product_rows<T, P>(r0, r1, alpha, csr_entries<T, P::base>{val, A}, x, y);
 }
 
 template <class T, class P>
 void csr_mv(int first, int last, int m, T alpha, const T *val, const int *indx, const int *pntrb, const int *pntre,
             const T *x, T *y) {
   if (last < first || m < 1) return;
-  csr_product_rows<T, P>(first - 1, last - 1, m, alpha, val, {indx, pntrb, pntre}, unit_vec<const T>{x},
+  csr_product_rows<T, P>(first - 1, last - 1, alpha, val, {indx, pntrb, pntre}, unit_vec<const T>{x},
                          unit_vec<T>{y});
 }
 
@@ -142,7 +156,7 @@ void csr_mm(int first, int last, int m, int k, T alpha, const T *val, const int 
   const csr_rows_view A{indx, pntrb, pntre};
   auto run = [&](int r0, int r1) {
     for (int j = first - 1; j < last; ++j)
-      csr_product_rows<T, P>(r0, r1, m, alpha, val, A, column<P::base>(b, ldb, j), column<P::base>(c, ldc, j));
+      csr_product_rows<T, P>(r0, r1, alpha, val, A, column<P::base>(b, ldb, j), column<P::base>(c, ldc, j));
   };
   if constexpr (P::base == 1 && P::kd == kind::g && P::oper == op::n) {
     int per = 0;

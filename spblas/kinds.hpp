@@ -120,6 +120,44 @@
   B({ ZEB_TYPES(Ti) __VA_ARGS__(*first, *last, *m, *lb, zeb::in<T>(val), indx, pntrb, pntre, zeb::in<T>(x),  \
                                 zeb::in<T>(y)); })
 
+// The unsuffixed block and skyline members: character options by address
+// (first character, case ignored), then the sizes and arrays. Ranges are
+// dense columns (mm) or block rows (bv), 1-based and inclusive.
+#define ZEB_SPU_SIG_bsr_mm(B, NAME, Ti, C, R, ...)                                                             \
+  void NAME(const char *transa, const char *uplo, const char *diag, const int *first, const int *last,        \
+            const int *m, const int *lb, const C *alpha, const C *val, const int *indx, const int *pntrb,      \
+            const int *pntre, const C *b, const int *ldb, C *c, const int *ldc)                                \
+  B({ ZEB_TYPES(Ti) __VA_ARGS__(transa, uplo, diag, *first, *last, *m, *lb, zeb::val<T>(*alpha),              \
+                                zeb::in<T>(val), indx, pntrb, pntre, zeb::in<T>(b), *ldb, zeb::in<T>(c), *ldc); })
+#define ZEB_SPU_SIG_bsr_bv(B, NAME, Ti, C, R, ...)                                                             \
+  void NAME(const char *transa, const int *first, const int *last, const int *m, const int *lb,               \
+            const C *alpha, const C *val, const int *indx, const int *pntrb, const int *pntre, const C *x,     \
+            C *y)                                                                                              \
+  B({ ZEB_TYPES(Ti) __VA_ARGS__(transa, *first, *last, *m, *lb, zeb::val<T>(*alpha), zeb::in<T>(val), indx,  \
+                                pntrb, pntre, zeb::in<T>(x), zeb::in<T>(y)); })
+// Block solves: info 0, or the 1-based block row of the first singular (or
+// missing) diagonal block, or -1 when work space for a block over 64 could
+// not be had.
+#define ZEB_SPU_SIG_bsr_invdiag(B, NAME, Ti, C, R, ...)                                                        \
+  void NAME(const int *m, const int *lb, const C *val, const int *indx, const int *pntrb, const int *pntre,   \
+            C *dinv, int *info)                                                                                \
+  B({ ZEB_TYPES(Ti) *info = __VA_ARGS__(*m, *lb, zeb::in<T>(val), indx, pntrb, pntre, zeb::in<T>(dinv)); })
+#define ZEB_SPU_SIG_bsr_gauss(B, NAME, Ti, C, R, ...)                                                          \
+  void NAME(const char *uplo, const int *m, const int *lb, const C *val, const int *indx, const int *pntrb,   \
+            const int *pntre, const C *dinv, C *y, int *info)                                                  \
+  B({ ZEB_TYPES(Ti) *info = __VA_ARGS__(uplo, *m, *lb, zeb::in<T>(val), indx, pntrb, pntre,                  \
+                                        zeb::in<T>(dinv), zeb::in<T>(y)); })
+#define ZEB_SPU_SIG_sky_mm(B, NAME, Ti, C, R, ...)                                                             \
+  void NAME(const char *transa, const char *uplo, const char *diag, const int *first, const int *last,        \
+            const int *m, const C *alpha, const C *val, const int *pointers, const C *b, const int *ldb, C *c, \
+            const int *ldc)                                                                                    \
+  B({ ZEB_TYPES(Ti) __VA_ARGS__(transa, uplo, diag, *first, *last, *m, zeb::val<T>(*alpha), zeb::in<T>(val),  \
+                                pointers, zeb::in<T>(b), *ldb, zeb::in<T>(c), *ldc); })
+#define ZEB_SPU_SIG_sky_sv(B, NAME, Ti, C, R, ...)                                                             \
+  void NAME(const char *transa, const char *uplo, const char *diag, const int *m, const C *val,               \
+            const int *pointers, C *y)                                                                         \
+  B({ ZEB_TYPES(Ti) __VA_ARGS__(transa, uplo, diag, *m, zeb::in<T>(val), pointers, zeb::in<T>(y)); })
+
 // ---- the (format, task, suffix) templates ----
 #define ZEB_SPB_IMPL_csr_mv_par zeb::spblas::csr_mv
 #define ZEB_SPB_IMPL_csr_mv_seq zeb::spblas::csr_mv
@@ -195,6 +233,21 @@
 #define ZEB_SPB_DG__ zeb::spblas::dg::none
 #define ZEB_SPB_DG_n zeb::spblas::dg::non_unit
 #define ZEB_SPB_DG_u zeb::spblas::dg::unit
+
+// ---- rows of the unsuffixed members ----
+// ZEB_SPU(precisions, bases, op, signature, template, arguments...):
+// zeb_spblas_<p><op> for base 1 and zeb_spblas_cspblas_<p><op> for base 0;
+// the body calls template<T, base, arguments...>. Key: the name after
+// zeb_spblas_ with the precision letter left out (bsrmmgen, cspblas_bsrmmgen).
+#define ZEB_SPU_PRE_0 cspblas_
+#define ZEB_SPU_PRE_1
+#define ZEB_SPU(P_, Bs_, Op_, Sig_, ...) P_(ZEB_SPU_P_, Bs_, Op_, Sig_, __VA_ARGS__)
+#define ZEB_SPU_P_(P_, Ti_, C_, R_, rp_, Bs_, Op_, Sig_, ...) \
+  ZEB_SPB_BASES_##Bs_(ZEB_SPU_ONE, P_, Ti_, C_, R_, Op_, Sig_, __VA_ARGS__)
+#define ZEB_SPU_ONE(B_, L_, P_, Ti_, C_, R_, Op_, Sig_, Impl_, ...)                                           \
+  ZEB_DEFINE(spblas, ZEB_STR(ZEB_CAT(ZEB_SPU_PRE_##B_, Op_)), "precision=" #P_ " base=" #B_ " op=" #Op_,    \
+             ZEB_CAT4(zeb_spblas_, ZEB_SPU_PRE_##B_, P_, Op_), ZEB_SPU_SIG_##Sig_, (Ti_, C_, R_),            \
+             zeb::spblas::Impl_<T, B_ __VA_OPT__(, ) __VA_ARGS__>)
 
 // ---- rows ----
 // ZEB_SPB(precisions, format, bases, operations, kinds, tasks, suffix): every

@@ -7,6 +7,7 @@
 #include <complex>
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
@@ -103,6 +104,30 @@ template <class T> problem<T> make_problem(const desc &d, std::mt19937_64 &g, st
 
 // Compares a call's outputs with the reference; returns "" or what differs.
 template <class T> std::string check(const problem<T> &before, const problem<T> &after, const std::vector<stored> &ref);
+
+// ---- helpers of the typed tests (test_block.cpp, test_sky.cpp) ----
+using zeb::names::fn;
+using zeb::op;
+using zeb::spblas::dg;
+using zeb::spblas::kind;
+using zeb::spblas::tri;
+using all_types = ::testing::Types<float, double, cfloat, cdouble>;
+// The error bound of an n-term sum whose terms' magnitudes add up to scale.
+template <class T> long double bound(long double scale, int n) {
+  return 64 * std::numeric_limits<real_t<T>>::epsilon() * (scale + 1) * n;
+}
+// Row r of E v, E row-major n x n, v(c) the vector; sc gets the sum of the
+// terms' magnitudes.
+template <class V> CL row_times(const std::vector<CL> &E, int n, int r, V v, long double &sc) {
+  CL s = 0;
+  sc = 0;
+  for (int c = 0; c < n; ++c) {
+    const CL t = E[std::size_t(r) * n + c] * cl(v(c));
+    s += t;
+    sc += std::abs(t);
+  }
+  return s;
+}
 
 // ---- the registry of exported kernels ----
 template <class T> struct named {

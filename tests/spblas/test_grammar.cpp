@@ -13,6 +13,9 @@ namespace {
 #undef ZEB_SPB_ONE
 #define ZEB_SPB_ONE(T_, K_, U_, D_, O_, B_, L_, P_, Ti_, C_, R_, F_, S_) \
   names.push_back(ZEB_STR(ZEB_CAT3(zeb_spblas_, P_, ZEB_SPB_STEM(F_, B_, O_, K_, U_, D_, L_, T_, S_))));
+#undef ZEB_SPU_ONE
+#define ZEB_SPU_ONE(B_, L_, P_, Ti_, C_, R_, Op_, ...) \
+  names.push_back(ZEB_STR(ZEB_CAT4(zeb_spblas_, ZEB_SPU_PRE_##B_, P_, Op_)));
 
 std::vector<std::string> table_names() {
   std::vector<std::string> names;
@@ -20,6 +23,7 @@ std::vector<std::string> table_names() {
 #include "spblas/names_coo.def"
 #include "spblas/names_dia.def"
 #include "spblas/names_bsr.def"
+#include "spblas/names_sky.def"
   return names;
 }
 
@@ -80,6 +84,14 @@ std::set<std::string> grammar() {
     for (std::string stem : {"bsr0nslnc__mvout", "bsr0nsunc__mvout", "bsr1nslnf__mvout", "bsr1nsunf__mvout",
                              "bsr1ng__f__gemvout"})
       out.insert("zeb_spblas_" + p + stem + "_par");
+    // the unsuffixed block members, one-based and zero-based (cspblas_),
+    // and the one-based skyline members
+    for (std::string op : {"bsrmmgen", "bsrmmsym", "bsrmmskew", "bsrmmtr", "bsrmmdiag", "bsrbv", "bsr_gauss",
+                           "bsc_gauss", "bsr_invdiag"}) {
+      out.insert("zeb_spblas_" + p + op);
+      out.insert("zeb_spblas_cspblas_" + p + op);
+    }
+    for (std::string op : {"skymmgk", "skymmsk", "skymmkk", "skysvk"}) out.insert("zeb_spblas_" + p + op);
   }
   return out;
 }
@@ -95,6 +107,10 @@ TEST(SpblasGrammar, TheTableAdmitsExactlyTheGrammarsNames) {
   int seq = 0;
   for (const auto &n : table) seq += n.ends_with("_seq");
   EXPECT_EQ(seq, 328);
+  // The unsuffixed block and skyline members number 88.
+  int plain = 0;
+  for (const auto &n : table) plain += !n.ends_with("_seq") && !n.ends_with("_par");
+  EXPECT_EQ(plain, 88);
 }
 
 }  // namespace

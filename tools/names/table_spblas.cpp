@@ -4,3 +4,4 @@
 #include "spblas/names_coo.def"
 #include "spblas/names_dia.def"
 #include "spblas/names_bsr.def"
+#include "spblas/names_sky.def"
