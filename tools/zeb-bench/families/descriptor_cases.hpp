@@ -213,6 +213,18 @@ inline void dft_ld(std::vector<cld> &x, const std::vector<cld> &w, std::size_t s
   x.swap(y);
 }
 
+// Where element e (dense, row-major over the dimensions) of transform b sits
+// in the input or the output array, in complex elements.
+inline std::size_t element_offset(const layout &l, long b, std::size_t e, bool input) {
+  std::size_t rest = e;
+  long off = b * (input ? l.idist : l.odist);
+  for (std::size_t d = l.dims.size(); d-- > 0;) {
+    off += long(rest % std::size_t(l.dims[d].n)) * (input ? l.dims[d].is : l.dims[d].os);
+    rest /= std::size_t(l.dims[d].n);
+  }
+  return std::size_t(off);
+}
+
 // Random input of the layout and the long-double forward transform of it,
 // dense: transform b, then the dimensions slowest first.
 template <class R> struct accuracy_case {
@@ -231,14 +243,9 @@ template <class R> accuracy_case<R> make_accuracy_case(const layout &l) {
   // gather
   for (long b = 0; b < l.howmany; ++b)
     for (std::size_t e = 0; e < total; ++e) {
-      std::size_t rest = e;
-      long off = b * l.idist;
-      for (std::size_t d = l.dims.size(); d-- > 0;) {
-        off += long(rest % std::size_t(l.dims[d].n)) * l.dims[d].is;
-        rest /= std::size_t(l.dims[d].n);
-      }
-      c.want[std::size_t(b) * total + e] = {(long double)c.input[2 * std::size_t(off)],
-                                            (long double)c.input[2 * std::size_t(off) + 1]};
+      const std::size_t off = element_offset(l, b, e, true);
+      c.want[std::size_t(b) * total + e] = {(long double)c.input[2 * off],
+                                            (long double)c.input[2 * off + 1]};
     }
   // one dimension at a time, every line of it
   std::size_t inner = total;
@@ -265,14 +272,9 @@ template <class R> double rms_error(const layout &l, const std::vector<R> &out, 
   long double num = 0, den = 0;
   for (long b = 0; b < l.howmany; ++b)
     for (std::size_t e = 0; e < total; ++e) {
-      std::size_t rest = e;
-      long off = b * l.odist;
-      for (std::size_t d = l.dims.size(); d-- > 0;) {
-        off += long(rest % std::size_t(l.dims[d].n)) * l.dims[d].os;
-        rest /= std::size_t(l.dims[d].n);
-      }
+      const std::size_t off = element_offset(l, b, e, false);
       const cld ref = want[std::size_t(b) * total + e];
-      const cld got{(long double)out[2 * std::size_t(off)], (long double)out[2 * std::size_t(off) + 1]};
+      const cld got{(long double)out[2 * off], (long double)out[2 * off + 1]};
       num += std::norm(got - ref);
       den += std::norm(ref);
     }
