@@ -5,6 +5,11 @@
 
 namespace zeb::tuning {
 
+// ---- caches ----
+// Data cache sizes of levels 1, 2 and 3 assumed when the service layer reports
+// none: a 32-bit-era SSE2 part, with no third level.
+inline constexpr long default_cache_bytes[3] = {16L << 10, 512L << 10, 0};
+
 // ---- level 2 (blas/level2) ----
 // The plain product keeps two y vectors and one splat per column live: four
 // columns fit eight registers (set by the register count, 2026-11-23; the

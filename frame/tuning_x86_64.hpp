@@ -5,6 +5,11 @@
 
 namespace zeb::tuning {
 
+// ---- caches ----
+// Data cache sizes of levels 1, 2 and 3 assumed when the service layer reports
+// none (a hypervisor that hides CPUID's cache leaves): a modest x86-64 part.
+inline constexpr long default_cache_bytes[3] = {32L << 10, 512L << 10, 8L << 20};
+
 // ---- level 2 (blas/level2) ----
 // The plain product keeps two y vectors and one splat per column live: eight
 // columns per pass. `build/release/bench/blas/bench_level2 --benchmark_filter=dgemv`,

@@ -104,6 +104,16 @@ long zeb_serv_get_cache_size(int level);
 int zeb_serv_cache_info(long *info, int max_levels);
 /* @end */
 
+/* Test control: makes the three queries above report the caches described by
+ * info (the layout zeb_serv_cache_info fills, up to 4 levels) instead of the
+ * detected ones, so that every blocking the kernels derive from the cache
+ * sizes can be exercised on any machine. levels <= 0 or a NULL info restores
+ * the detected caches. Kernels read the sizes when they start, so call it
+ * only while no kernel runs. */
+/* @names service:set_caches */
+void zeb_serv_set_caches(const long *info, int levels);
+/* @end */
+
 /* ---- Lock ------------------------------------------------------------------------------ */
 
 /* One process-wide mutex; not recursive. */

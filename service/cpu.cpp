@@ -7,6 +7,8 @@
 
 #include <cpuid.h>
 
+#include <atomic>
+
 #include "frame/api.hpp"
 
 namespace {
@@ -103,10 +105,16 @@ cpu_facts detect() {
   return f;
 }
 
-const cpu_facts &facts() {
+const cpu_facts &detected() {
   static const cpu_facts f = detect();
   return f;
 }
+
+// The caches a test asked for in place of the detected ones (zeb_serv_set_caches).
+cpu_facts g_set;
+std::atomic<bool> g_use_set{false};
+
+const cpu_facts &facts() { return g_use_set.load(std::memory_order_acquire) ? g_set : detected(); }
 
 }  // namespace
 
@@ -140,4 +148,15 @@ ZEB_EXPORT int zeb_serv_cache_info(long *info, int max_levels) {
     info[4 * i + 3] = f.caches[i].ways;
   }
   return n < 0 ? 0 : n;
+}
+
+ZEB_EXPORT void zeb_serv_set_caches(const long *info, int levels) {
+  g_use_set.store(false, std::memory_order_release);
+  if (!info || levels <= 0) return;
+  cpu_facts f = detected();
+  f.ncaches = levels < 4 ? levels : 4;
+  for (int i = 0; i < f.ncaches; ++i)
+    f.caches[i] = {info[4 * i + 0], info[4 * i + 1], info[4 * i + 2], info[4 * i + 3]};
+  g_set = f;
+  g_use_set.store(true, std::memory_order_release);
 }

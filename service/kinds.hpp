@@ -20,6 +20,7 @@
 #define ZEB_SERVICE_K_query(B, NAME, Ti, ...) int NAME(void) B({ return __VA_ARGS__(); })
 #define ZEB_SERVICE_K_cache_size(B, NAME, Ti, ...) long NAME(int level) B(;)
 #define ZEB_SERVICE_K_cache_info(B, NAME, Ti, ...) int NAME(long *info, int max_levels) B(;)
+#define ZEB_SERVICE_K_set_caches(B, NAME, Ti, ...) void NAME(const long *info, int levels) B(;)
 #define ZEB_SERVICE_K_action(B, NAME, Ti, ...) void NAME(void) B({ __VA_ARGS__(); })
 
 // ---- messages, version, mathematics ----

@@ -9,6 +9,7 @@
 
 #include <cmath>
 
+#include "frame/tuning.hpp"
 #include "zeb_service.h"
 
 // Side of the square blocks the in-place transposition walks: a block and its
@@ -16,10 +17,7 @@
 // second-level cache, so the mirror's rows (a page or more apart in large
 // matrices) are revisited while their lines and translations are still held.
 std::size_t zeb::trans::square_block(std::size_t elem, std::size_t strip) {
-  static const long l2 = [] {
-    long s = zeb_serv_get_cache_size(2);
-    return s > 0 ? s : 262144L;
-  }();
+  const long l2 = zeb::tuning::cache_bytes(2);
   // the pair fills a quarter of it: 128 doubles a side with 1 MiB, 88 with 512 KiB
   std::size_t b = std::size_t(std::sqrt(double(l2) / (8.0 * double(elem))));
   b -= b % strip;

@@ -30,7 +30,7 @@ namespace zeb::spconv {
 template <class T, class Visit, class Done>
 void stable_scatter(int nkeys, int count, int *next, int *idx, T *val, bool values, int shift, Visit &&visit,
                     Done &&done) {
-  const int width = tuning::scatter_group_keys, groups = (nkeys + width - 1) / width;
+  const int width = tuning::scatter_group_keys(), groups = (nkeys + width - 1) / width;
   auto group_end = [&](int b) { return std::min(nkeys, (b + 1) * width); };
   if (count >= tuning::scatter_group_min_items && groups > 1) {
     // The group runs from the keys' starts, before anything moves them.

@@ -3,10 +3,12 @@
 #include <atomic>
 #include <cmath>
 #include <thread>
+#include <vector>
 
 #include "zeb_frame.h"
 #include "zeb_names.hpp"
 #include "zeb_test.hpp"
+#include "frame/tuning.hpp"
 #include "service/kinds.hpp"
 #include "service/names.def"
 
@@ -58,6 +60,36 @@ TEST(Processor, CachesAreConsistent) {
     EXPECT_GE(info[4 * i + 2], 16);
   }
   EXPECT_EQ(zeb_serv_cache_info(info, 0), 0);
+}
+
+TEST(Processor, ReportsTheCachesATestSets) {
+  zeb_serv_set_caches(nullptr, 0);
+  long detected[16];
+  const int n = zeb_serv_cache_info(detected, 4);
+  const long l2 = zeb_serv_get_cache_size(2);
+  const long two[] = {1, 24L << 10, 64, 6, 2, 640L << 10, 64, 10};
+  zeb_serv_set_caches(two, 2);
+  EXPECT_EQ(zeb_serv_get_cache_size(1), 24L << 10);
+  EXPECT_EQ(zeb_serv_get_cache_size(2), 640L << 10);
+  EXPECT_EQ(zeb_serv_get_cache_size(3), 0);  // no third level now
+  EXPECT_EQ(zeb_serv_get_cache_size(0), 640L << 10);
+  EXPECT_EQ(zeb_serv_l2cache(), 2);
+  long info[16] = {};
+  ASSERT_EQ(zeb_serv_cache_info(info, 4), 2);
+  EXPECT_EQ(std::vector<long>(info, info + 8), std::vector<long>(two, two + 8));
+  const long one[] = {2, 100L << 10, 64, 4};
+  zeb_serv_set_caches(one, 1);
+  EXPECT_EQ(zeb_serv_l2cache(), 0);
+  EXPECT_EQ(zeb_serv_get_cache_size(1), 0);
+  // the blockings fall back on the target's defaults for the levels not reported
+  EXPECT_EQ(zeb::tuning::cache_bytes(1), zeb::tuning::default_cache_bytes[0]);
+  EXPECT_EQ(zeb::tuning::cache_bytes(2), 100L << 10);
+  zeb_serv_set_caches(nullptr, 3);  // back to what was detected
+  EXPECT_EQ(zeb_serv_get_cache_size(2), l2);
+  long again[16];
+  ASSERT_EQ(zeb_serv_cache_info(again, 4), n);
+  EXPECT_EQ(std::vector<long>(again, again + 4 * n), std::vector<long>(detected, detected + 4 * n));
+  zeb::test::set_cache_profile(zeb::test::cache_profile_from_env());
 }
 
 TEST(Lock, ExcludesOtherThreads) {

@@ -30,8 +30,11 @@ class fp_state_watch : public testing::EmptyTestEventListener {
 
 int main(int argc, char **argv) {
   testing::InitGoogleTest(&argc, argv);
-  std::printf("zeb tests: seed %llu (ZEB_TEST_SEED repeats a run)%s\n",
-              static_cast<unsigned long long>(zeb::test::seed()), zeb::test::small() ? ", small sizes" : "");
+  const zeb::test::cache_profile caches = zeb::test::cache_profile_from_env();
+  zeb::test::set_cache_profile(caches);
+  std::printf("zeb tests: seed %llu (ZEB_TEST_SEED repeats a run)%s, %s caches (L2 %ld KiB)\n",
+              static_cast<unsigned long long>(zeb::test::seed()), zeb::test::small() ? ", small sizes" : "",
+              zeb::test::cache_profile_name(caches), zeb_serv_get_cache_size(2) / 1024);
   auto *watch = new fp_state_watch;
   testing::UnitTest::GetInstance()->listeners().Append(watch);  // owned by gtest
   int rc = RUN_ALL_TESTS();

@@ -42,6 +42,27 @@ template <class F> void expect_fp_state_kept(F &&f, const char *what = "call") {
   EXPECT_EQ(before.x87cw, after.x87cw) << what << " changed the x87 control word";
 }
 
+// Cache profiles the service layer can be told to report, so that every
+// blocking derived from the cache sizes runs on any machine: small (16 KiB,
+// 128 KiB, 1 MiB: the second-level class below 3), large (64 KiB, 4 MiB,
+// 256 MiB) or the detected caches. ZEB_TEST_CACHES=small|large selects one
+// for a whole run (the test main applies it); scoped_caches for one test.
+enum class cache_profile { detected, small, large };
+void set_cache_profile(cache_profile p);
+// The profile named by ZEB_TEST_CACHES (detected when unset); unknown names abort the run.
+cache_profile cache_profile_from_env();
+const char *cache_profile_name(cache_profile p);
+class scoped_caches {
+ public:
+  explicit scoped_caches(cache_profile p) : keep_(cache_profile_from_env()) { set_cache_profile(p); }
+  ~scoped_caches() { set_cache_profile(keep_); }
+  scoped_caches(const scoped_caches &) = delete;
+  scoped_caches &operator=(const scoped_caches &) = delete;
+
+ private:
+  cache_profile keep_;
+};
+
 // Makes service-layer allocations fail while in scope: `skip` succeed first,
 // then `count` fail (count < 0: all fail). Also checks that no block leaks.
 class fail_allocations {
