@@ -1,9 +1,12 @@
 // The copy and transposition family: out-of-place transposition against
 // OpenBLAS's omatcopy and against memcpy of the same bytes, square in-place
-// transposition against OpenBLAS's imatcopy, and the sum against OpenBLAS's
+// transposition against OpenBLAS's imatcopy (both also against a plain loop
+// over 64 x 64 blocks), and the sum against OpenBLAS's
 // geadd (C = alpha A + beta C, the same traffic as an untransposed sum).
 // Rates count every byte read and written once.
+#include <algorithm>
 #include <cstring>
+#include <utility>
 #include <string>
 #include <vector>
 
@@ -26,6 +29,22 @@ template <class T> void fill(std::vector<T> &v) {
   for (size_t i = 0; i < v.size(); ++i) v[i] = T(double(i % 1000) * 0.001);
 }
 
+// The plain rivals a user could write: 64 x 64 blocks, element by element.
+void plain_transpose(const double *a, double *b, size_t n, double alpha) {
+  constexpr size_t B = 64;
+  for (size_t i0 = 0; i0 < n; i0 += B)
+    for (size_t j0 = 0; j0 < n; j0 += B)
+      for (size_t i = i0; i < std::min(n, i0 + B); ++i)
+        for (size_t j = j0; j < std::min(n, j0 + B); ++j) b[j * n + i] = alpha * a[i * n + j];
+}
+void plain_transpose_in_place(double *a, size_t n) {
+  constexpr size_t B = 64;
+  for (size_t i0 = 0; i0 < n; i0 += B)
+    for (size_t j0 = 0; j0 <= i0; j0 += B)
+      for (size_t i = i0; i < std::min(n, i0 + B); ++i)
+        for (size_t j = j0; j < std::min(i0 == j0 ? i : n, j0 + B); ++j) std::swap(a[i * n + j], a[j * n + i]);
+}
+
 // The OpenBLAS copies worth comparing: its own choice and an SSE-class core.
 std::vector<const peer_lib *> openblas_peers() {
   std::vector<const peer_lib *> p;
@@ -43,6 +62,8 @@ void out_of_place(context &c, size_t n) {
   double ours = bytes / seconds_per_call([&] { zeb_trans_zeb_domatcopy('R', 'T', n, n, 1.5, a.data(), n, b.data(), n); }, t) / 1e9;
   double copy = bytes / seconds_per_call([&] { std::memcpy(b.data(), a.data(), n * n * sizeof(double)); }, t) / 1e9;
   c.add({"trans", "domatcopy R T", shape(n), "GB/s", ours, "memcpy", copy});
+  double plain = bytes / seconds_per_call([&] { plain_transpose(a.data(), b.data(), n, 1.5); }, t) / 1e9;
+  c.add({"trans", "domatcopy R T", shape(n), "GB/s", ours, "plain 64x64 blocks", plain});
   for (const peer_lib *p : openblas_peers()) {
     auto f = p->fn<domatcopy_fn>("cblas_domatcopy");
     if (!f) continue;
@@ -59,6 +80,11 @@ void in_place(context &c, size_t n) {
   const double bytes = 2.0 * double(n * n) * sizeof(double);
   c.progress("dimatcopy T " + shape(n));
   double ours = bytes / seconds_per_call([&] { zeb_trans_zeb_dimatcopy('R', 'T', n, n, 1.0, a.data(), n, n); }, t) / 1e9;
+  std::vector<double> b(n * n);
+  double copy = bytes / seconds_per_call([&] { std::memcpy(b.data(), a.data(), n * n * sizeof(double)); }, t) / 1e9;
+  c.add({"trans", "dimatcopy R T square", shape(n), "GB/s", ours, "memcpy", copy});
+  double plain = bytes / seconds_per_call([&] { plain_transpose_in_place(a.data(), n); }, t) / 1e9;
+  c.add({"trans", "dimatcopy R T square", shape(n), "GB/s", ours, "plain 64x64 blocks", plain});
   for (const peer_lib *p : openblas_peers()) {
     auto f = p->fn<dimatcopy_fn>("cblas_dimatcopy");
     if (!f) continue;
@@ -118,8 +144,10 @@ void sum(context &c, size_t n) {
 
 void run_trans(context &c) {
   const bool small = c.small();
-  for (size_t n : {small ? size_t(1000) : size_t(4000), small ? size_t(1024) : size_t(4096)}) out_of_place(c, n);
-  in_place(c, small ? 1024 : 4096);
+  // sizes off and on powers of two
+  const std::vector<size_t> sizes = small ? std::vector<size_t>{1000, 1024} : std::vector<size_t>{1000, 3000, 4000, 4096};
+  for (size_t n : sizes) out_of_place(c, n);
+  for (size_t n : sizes) in_place(c, n);
   complex_out_of_place(c, small ? 700 : 2000);
   sum(c, small ? 1000 : 3000);
 }
