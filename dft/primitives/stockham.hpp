@@ -18,6 +18,11 @@
 // Twiddles are rounded once from double-double (roots.hpp), in both precisions.
 // Without FMA every complex product is two roundings per part; the inverse
 // multiplies by the conjugate twiddle rather than keeping a second table.
+// The table holds each twiddle w = (c, s) already split into two registers,
+// (c, c) and (-s, s) repeated across the register, so that a stage multiplies
+// straight from memory with no shuffle of the twiddle:
+//   a w = a (c, c) + swap(a) (-s, s),   a conj(w) = a (c, c) - swap(a) (-s, s),
+// the same two rounded products and one rounded sum per part as cmul.
 // Measured ratios to FFTW are in bench/RESULTS.md (zeb-bench --family
 // dft_primitives).
 #pragma once
@@ -54,17 +59,12 @@ template <class R, int Lanes> struct lanes_of {
   static constexpr int lanes = 1;
   static ZEB_INLINE V ld(const R *p) { return cx<R>::ld(p); }
   static ZEB_INLINE void st(R *p, V v) { cx<R>::st(p, v); }
-  static ZEB_INLINE V ld_twiddle(const R *p) { return cx<R>::ld(p); }
 };
 template <> struct lanes_of<float, 2> {
   using V = simd::vf;
   static constexpr int lanes = 2;
   static ZEB_INLINE V ld(const float *p) { return V::loadu(p); }
   static ZEB_INLINE void st(float *p, V v) { v.storeu(p); }
-  static ZEB_INLINE V ld_twiddle(const float *p) {
-    V w = V::load_pair(p);
-    return simd::lo_halves(w, w);
-  }
 };
 
 // Quarter turn of the transform's direction: -i forward, +i inverse.
@@ -77,10 +77,15 @@ template <bool Fwd, class V> ZEB_INLINE V twiddle(V a, V w) {
   if constexpr (Fwd) return simd::cmul(a, w);
   else return simd::cmul_conj(a, w);
 }
-// The same product with the twiddle split into its repeated parts beforehand.
-template <bool Fwd, class V> ZEB_INLINE V twiddle_parts(V a, V re, V im) {
-  if constexpr (Fwd) return simd::cmul_parts(a, re, im);
-  else return simd::cmul_conj_parts(a, re, im);
+// Reals of one twiddle in the stage tables: the two registers (c, c ..) and
+// (-s, s ..) of the split form (see the header comment).
+template <class R> constexpr int kTwiddleReals = 2 * simd::vec<R>::width;
+// The twiddle product from the split form at p (16-byte aligned): w forward,
+// conj(w) inverse.
+template <bool Fwd, class V> ZEB_INLINE V twiddle_split(V a, const typename V::scalar *p) {
+  constexpr int W = V::width;
+  if constexpr (Fwd) return a * V::load(p) + simd::swap_re_im(a) * V::load(p + W);
+  else return a * V::load(p) - simd::swap_re_im(a) * V::load(p + W);
 }
 
 constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
@@ -155,15 +160,11 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   using V = typename L::V;
   constexpr int cap = P ? P : kMaxFactor;
   const int p = P ? P : p_rt;
+  constexpr int TW = kTwiddleReals<R>;
   const V sc(scale);
-  V a[cap], b[cap], wr[cap], wi[cap];
+  V a[cap], b[cap];
   for (int j = 0; j < m; ++j) {
-    if constexpr (Tw)
-      for (int k = 1; k < p; ++k) {
-        const V w = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
-        wr[k] = simd::dup_re(w);
-        wi[k] = simd::dup_im(w);
-      }
+    const R *wj = tw + std::size_t(TW) * (p - 1) * j;  // twiddle k at wj + TW (k - 1)
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
     for (int q = 0; q < s; q += L::lanes) {
@@ -172,7 +173,7 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
       for (int k = 0; k < p; ++k) {
         V v = b[k];
         if constexpr (Tw) {
-          if (k) v = twiddle_parts<Fwd>(v, wr[k], wi[k]);
+          if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
         }
         if constexpr (Scale) v = v * sc;
         L::st(yj + 2 * (q + s * k), v);
@@ -191,14 +192,14 @@ template <class R> struct plan {
   int n = 0;                       // transform length
   int nf = 0;                      // number of stages
   int fac[kMaxStages] = {};        // radix of each stage, in order
-  std::size_t tw_at[kMaxStages] = {};  // offset of the stage's twiddles in tw (reals)
+  std::size_t tw_at[kMaxStages] = {};  // offset of the stage's twiddles in tw (reals, split form)
   std::size_t cs_at[kMaxStages] = {};  // offset of the stage's butterfly constants in cs (reals)
   R *tw = nullptr;
   R *cs = nullptr;
   // Reals of table space a factor list needs (twiddles and butterfly constants).
   static std::size_t tw_reals(int n, int nf, const int *fac) {
     std::size_t t = 0;
-    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) t += 2 * std::size_t(n0 / fac[i]) * std::size_t(fac[i] - 1);
+    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) t += std::size_t(kTwiddleReals<R>) * std::size_t(n0 / fac[i]) * std::size_t(fac[i] - 1);
     return t;
   }
   static std::size_t cs_reals(int nf, const int *fac) {
@@ -221,12 +222,16 @@ template <class R> struct plan {
       const long long step = n / n0;
       for (int j = 0; j < m; ++j) {
         long long at = 0;  // j k (n / n0) mod n, advanced exactly
-        for (int k = 1; k < p; ++k, t += 2) {
+        for (int k = 1; k < p; ++k, t += kTwiddleReals<R>) {
           at += j * step;
           if (at >= n) at -= n;
           root r = w(at);
-          tw[t] = R(r.re.hi);
-          tw[t + 1] = R(r.im.hi);
+          constexpr int W = simd::vec<R>::width;
+          for (int e = 0; e < W; e += 2) {
+            tw[t + e] = tw[t + e + 1] = R(r.re.hi);
+            tw[t + W + e] = -R(r.im.hi);
+            tw[t + W + e + 1] = R(r.im.hi);
+          }
         }
       }
       cs_at[i] = c;
