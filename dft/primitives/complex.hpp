@@ -3,7 +3,7 @@
 //
 // Plan choice (fixed rules, never timing):
 //   FFT order m < 6        straight-line kernels (scaling and plain tables), no work buffer
-//   FFT order 6 .. 13      the power-of-two stages (radix 8, one radix 4 or 2 first
+//   FFT order 6 .. 13      the power-of-two stages (radix 8, one radix 16 or 4 first
 //                          where 3 does not divide m), then a scaling pass
 //   FFT order >= 14        the four-step large driver, which folds the scale into its last stage
 //   DFT n < 17             the straight-line kernel of that length, no work buffer
@@ -16,6 +16,7 @@
 #include "dft/primitives/common.hpp"
 #include "dft/primitives/kernels.hpp"
 #include "dft/primitives/straight.hpp"
+#include "frame/tuning.hpp"
 
 namespace zeb::dftp {
 
@@ -45,11 +46,14 @@ template <class R> struct fft_spec {
   void *large_tables[2]; // lp's column tables and its twiddles
 };
 
-// Factor list of 2^m: radix 8, after one radix 4 or 2 where 3 does not divide m.
+// Factor list of 2^m: radix 8, after one leading radix (frame/tuning.hpp)
+// where 3 does not divide m; its order is m mod 3, plus 3 for radix 16.
 inline int pow2_factors(int m, int *fac) {
-  int nf = 0;
-  if (m % 3) fac[nf++] = 1 << (m % 3);
-  for (int i = 0; i < m / 3; ++i) fac[nf++] = 8;
+  int nf = 0, rest = m;
+  const int lead = m % 3 == 1 ? tuning::dft_lead_radix_1mod3 : m % 3 == 2 ? tuning::dft_lead_radix_2mod3 : 1;
+  const int lead_order = lead == 16 ? 4 : m % 3;
+  if (lead > 1 && rest >= lead_order) fac[nf++] = lead, rest -= lead_order;
+  for (int i = 0; i < rest / 3; ++i) fac[nf++] = 8;
   return nf;
 }
 

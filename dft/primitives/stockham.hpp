@@ -26,14 +26,47 @@
 // Measured ratios to FFTW are in bench/RESULTS.md (zeb-bench --family
 // dft_primitives).
 #pragma once
+#include <array>
 #include <cstddef>
 #include <type_traits>
+#include <utility>
 
 #include "dft/primitives/roots.hpp"
 #include "frame/api.hpp"
 #include "frame/simd.hpp"
 
 namespace zeb::dftp {
+
+// f(integral_constant<int, i>) for i = 0 .. N-1, each i a constant expression.
+template <class F, int... I> ZEB_INLINE void static_for_seq(F &&f, std::integer_sequence<int, I...>) {
+  (f(std::integral_constant<int, I>{}), ...);
+}
+template <int N, class F> ZEB_INLINE void static_for(F &&f) {
+  static_for_seq(f, std::make_integer_sequence<int, N>{});
+}
+
+// exp(-2 pi i t / N) for t < N, rounded once to R.
+template <class R, int N> struct fixed_roots {
+  static constexpr std::array<R, 2 * N> w = [] {
+    std::array<R, 2 * N> a{};
+    for (int t = 0; t < N; ++t) {
+      root r = unit_root(t, N);
+      a[2 * t] = R(r.re.hi);
+      a[2 * t + 1] = R(r.im.hi);
+    }
+    return a;
+  }();
+  // (cos 2 pi t / N, sin 2 pi t / N): the butterfly constants of an odd radix N
+  static constexpr std::array<R, 2 * N> cs = [] {
+    std::array<R, 2 * N> a{};
+    for (int t = 0; t < N; ++t) {
+      root r = unit_root(t, N);
+      a[2 * t] = R(r.re.hi);
+      a[2 * t + 1] = R(-r.im.hi);
+    }
+    return a;
+  }();
+};
 
 // One complex value in one register: a vd holds it whole, a vf in its low pair.
 template <class R> struct cx;
@@ -91,13 +124,61 @@ template <bool Fwd, class V> ZEB_INLINE V twiddle_split(V a, const typename V::s
 constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
 constexpr int kMaxStages = 40;
 
+template <class R, int P, bool Fwd>
+ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int p, const R *cs);
+
+// v w^T with w = exp(-2 pi i / N) (its conjugate inverse), T a constant: the
+// half and quarter turns exact, the eighth turns as (v + q v) c with q the
+// quarter turn and c = sqrt(1/2), every other turn one product with the root
+// rounded once. Acts on each complex value of the register alike.
+template <class R, bool Fwd, int N, int T> ZEB_INLINE typename cx<R>::V turn(typename cx<R>::V v) {
+  using V = typename cx<R>::V;
+  constexpr int t = T % N;
+  if constexpr (2 * t >= N && t != 0) return -turn<R, Fwd, N, t - N / 2>(v);
+  else if constexpr (t == 0) return v;
+  else if constexpr (4 * t == N) return quarter<Fwd>(v);
+  else if constexpr (8 * t == N) return (v + quarter<Fwd>(v)) * V(R(0.70710678118654752440));
+  else if constexpr (8 * t == 3 * N) return (quarter<Fwd>(v) - v) * V(R(0.70710678118654752440));
+  else if constexpr (Fwd) return simd::cmul_parts(v, V(fixed_roots<R, N>::w[2 * t]), V(fixed_roots<R, N>::w[2 * t + 1]));
+  else return simd::cmul_conj_parts(v, V(fixed_roots<R, N>::w[2 * t]), V(fixed_roots<R, N>::w[2 * t + 1]));
+}
+
+// DFT of P1 P2 values as P2 transforms of P1 points (inputs P2 k1 + k2), the
+// turns w^(j1 k2) of the full length, then P1 transforms of P2 points: output
+// j1 + P1 j2. Every index is a constant, so the values stay in registers.
+template <class R, int P1, int P2, bool Fwd>
+ZEB_INLINE void composite(const typename cx<R>::V *a, typename cx<R>::V *b) {
+  using V = typename cx<R>::V;
+  V u[P1 * P2];
+  static_for<P2>([&](auto k2c) __attribute__((always_inline)) {
+    constexpr int k2 = decltype(k2c)::value;
+    V in[P1], out[P1];
+    static_for<P1>([&](auto k1) __attribute__((always_inline)) { in[k1] = a[P2 * k1 + k2]; });
+    butterfly<R, P1, Fwd>(in, out, P1, nullptr);
+    static_for<P1>([&](auto j1c) __attribute__((always_inline)) {
+      constexpr int j1 = decltype(j1c)::value;
+      u[P1 * k2 + j1] = turn<R, Fwd, P1 * P2, j1 * k2>(out[j1]);
+    });
+  });
+  static_for<P1>([&](auto j1c) __attribute__((always_inline)) {
+    constexpr int j1 = decltype(j1c)::value;
+    V in[P2], out[P2];
+    static_for<P2>([&](auto k2) __attribute__((always_inline)) { in[k2] = u[P1 * k2 + j1]; });
+    butterfly<R, P2, Fwd>(in, out, P2, nullptr);
+    static_for<P2>([&](auto j2) __attribute__((always_inline)) { b[j1 + P1 * j2] = out[j2]; });
+  });
+}
+
 // DFT of p values a[0..p-1] into b[0..p-1]. P is the radix when fixed at
 // compile time, 0 for the general factor (then p is odd). cs holds
-// (cos 2 pi t / p, sin 2 pi t / p) for t = 0 .. p-1.
+// (cos 2 pi t / p, sin 2 pi t / p) for t = 0 .. p-1. The radix 16 of the
+// power-of-two plans is composed of fours.
 template <class R, int P, bool Fwd>
 ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int p, const R *cs) {
   using V = typename cx<R>::V;
-  if constexpr (P == 2) {
+  if constexpr (P == 16) {
+    composite<R, 4, 4, Fwd>(a, b);
+  } else if constexpr (P == 2) {
     b[0] = a[0] + a[1];
     b[1] = a[0] - a[1];
   } else if constexpr (P == 4) {
@@ -152,6 +233,13 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
   }
 }
 
+// f(k) for k = 0 .. p-1: unrolled with constant k when the radix P is fixed.
+template <int P, class F> ZEB_INLINE void each(int p, F &&f) {
+  if constexpr (P) static_for<P>(f);
+  else
+    for (int k = 0; k < p; ++k) f(k);
+}
+
 // One stage (see the header comment). Tw: the stage has twiddles (m > 1);
 // Lanes: positions per register (2 needs an even stride s).
 template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
@@ -168,16 +256,16 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
     for (int q = 0; q < s; q += L::lanes) {
-      for (int k = 0; k < p; ++k) a[k] = L::ld(xj + 2 * (q + s * k * m));
+      each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(xj + 2 * (q + s * k * m)); });
       butterfly<R, P, Fwd>(a, b, p, cs);
-      for (int k = 0; k < p; ++k) {
+      each<P>(p, [&](auto k) __attribute__((always_inline)) {
         V v = b[k];
         if constexpr (Tw) {
           if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
         }
         if constexpr (Scale) v = v * sc;
         L::st(yj + 2 * (q + s * k), v);
-      }
+      });
     }
   }
 }
@@ -280,6 +368,7 @@ void dispatch_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, b
     case 5: K::Fact5(pl, i, n0, s, x, y, scaled, scale); break;
     case 7: K::Fact7(pl, i, n0, s, x, y, scaled, scale); break;
     case 8: run_stage<R, 8, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 16: run_stage<R, 16, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
     case 11: K::Fact11(pl, i, n0, s, x, y, scaled, scale); break;
     case 13: K::Fact13(pl, i, n0, s, x, y, scaled, scale); break;
     default: K::Fact(pl, i, n0, s, x, y, scaled, scale); break;

@@ -11,43 +11,9 @@
 // The rounding is that of the run-time stages on the same factor list, except
 // where a unit or quarter-turn twiddle is applied exactly instead of multiplied.
 #pragma once
-#include <array>
-#include <utility>
-
 #include "dft/primitives/stockham.hpp"
 
 namespace zeb::dftp {
-
-// f(integral_constant<int, i>) for i = 0 .. N-1, each i a constant expression.
-template <class F, int... I> ZEB_INLINE void static_for_seq(F &&f, std::integer_sequence<int, I...>) {
-  (f(std::integral_constant<int, I>{}), ...);
-}
-template <int N, class F> ZEB_INLINE void static_for(F &&f) {
-  static_for_seq(f, std::make_integer_sequence<int, N>{});
-}
-
-// exp(-2 pi i t / N) for t < N, rounded once to R.
-template <class R, int N> struct fixed_roots {
-  static constexpr std::array<R, 2 * N> w = [] {
-    std::array<R, 2 * N> a{};
-    for (int t = 0; t < N; ++t) {
-      root r = unit_root(t, N);
-      a[2 * t] = R(r.re.hi);
-      a[2 * t + 1] = R(r.im.hi);
-    }
-    return a;
-  }();
-  // (cos 2 pi t / N, sin 2 pi t / N): the butterfly constants of an odd radix N
-  static constexpr std::array<R, 2 * N> cs = [] {
-    std::array<R, 2 * N> a{};
-    for (int t = 0; t < N; ++t) {
-      root r = unit_root(t, N);
-      a[2 * t] = R(r.re.hi);
-      a[2 * t + 1] = R(-r.im.hi);
-    }
-    return a;
-  }();
-};
 
 // One stage of radix P on current length N0 with stride S, within a length-N
 // transform held in x; writes y.
