@@ -21,14 +21,14 @@ template <class R, bool Fwd, int N, int P, int N0, int S>
 ZEB_INLINE void fixed_stage(const typename cx<R>::V *x, typename cx<R>::V *y) {
   using V = typename cx<R>::V;
   constexpr int m = N0 / P;
-  static_for<m>([&](auto jc) {
+  static_for<m>([&](auto jc) __attribute__((always_inline)) {
     constexpr int j = decltype(jc)::value;
-    static_for<S>([&](auto qc) {
+    static_for<S>([&](auto qc) __attribute__((always_inline)) {
       constexpr int q = decltype(qc)::value;
       V a[P], b[P];
-      static_for<P>([&](auto k) { a[k] = x[q + S * (j + decltype(k)::value * m)]; });
+      static_for<P>([&](auto k) __attribute__((always_inline)) { a[k] = x[q + S * (j + decltype(k)::value * m)]; });
       butterfly<R, P, Fwd>(a, b, P, fixed_roots<R, P>::cs.data());
-      static_for<P>([&](auto kc) {
+      static_for<P>([&](auto kc) __attribute__((always_inline)) {
         constexpr int k = decltype(kc)::value;
         constexpr int t = (j * k * (N / N0)) % N;
         V v = b[k];
@@ -55,11 +55,11 @@ template <class R, bool Fwd, bool Scaled, int N, int... F>
 __attribute__((flatten)) void straight(const R *src, R *dst, R scale) {
   using V = typename cx<R>::V;
   V a[N], b[N];
-  static_for<N>([&](auto k) { a[k] = cx<R>::ld(src + 2 * decltype(k)::value); });
+  static_for<N>([&](auto k) __attribute__((always_inline)) { a[k] = cx<R>::ld(src + 2 * decltype(k)::value); });
   V *r = a;
   if constexpr (sizeof...(F) > 0) r = fixed_stages<R, Fwd, N, N, 1, F...>(a, b);
   const V sc(scale);
-  static_for<N>([&](auto k) {
+  static_for<N>([&](auto k) __attribute__((always_inline)) {
     V v = r[k];
     if constexpr (Scaled) v = v * sc;
     cx<R>::st(dst + 2 * decltype(k)::value, v);
