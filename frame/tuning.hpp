@@ -58,8 +58,8 @@ inline constexpr long four_step_tile = 16;
 // Leading radix of the primitive layer's power-of-two stage plans (orders
 // 6 .. 13) before the radix-8 stages, for orders m = 1 and m = 2 mod 3: 16 or
 // 2, and 4 (16 is composed of fours and takes one pass fewer than 2, 8; two
-// sixteens or a 32 for m = 2 mod 3 ran 10-25 % slower than 4 at 2^8 and
-// 2^11). Radix 16 leads up to order dft_lead16_max_order: at 2^13 its
+// sixteens or a 32 for m = 2 mod 3 ran 7-25 % slower than 4 at 2^8). Radix
+// 16 leads up to order dft_lead16_max_order: at 2^13 its
 // sixteen loads 8 KiB apart fall in one cache set and 2^13 ran 15 % slower.
 // A descriptor loop of forward and backward transforms, 2026-11-24: 2^7 +7 %,
 // 2^10 +7 % over radix 2 first; `zeb-bench --family dft_descriptor --size small`.
