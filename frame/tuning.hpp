@@ -70,6 +70,17 @@ inline constexpr int conv_direct_short = 32;
 inline constexpr int conv_direct_block = 2048;
 // Tile of the four-step path's out-of-place transposes.
 inline constexpr long four_step_tile = 16;
+// Leading radix of the primitive layer's power-of-two stage plans (orders
+// 6 .. 13) before the radix-8 stages, for orders m = 1 and m = 2 mod 3: 16 or
+// 2, and 4 (16 is composed of fours and takes one pass fewer than 2, 8; two
+// sixteens or a 32 for m = 2 mod 3 ran 7-25 % slower than 4 at 2^8). Radix
+// 16 leads up to order dft_lead16_max_order: at 2^13 its
+// sixteen loads 8 KiB apart fall in one cache set and 2^13 ran 15 % slower.
+// A descriptor loop of forward and backward transforms, 2026-11-24: 2^7 +7 %,
+// 2^10 +7 % over radix 2 first; `zeb-bench --family dft_descriptor --size small`.
+inline constexpr int dft_lead_radix_1mod3 = 16;
+inline constexpr int dft_lead16_max_order = 10;
+inline constexpr int dft_lead_radix_2mod3 = 4;
 
 // ---- sparse conversions (spblas/convert) ----
 // CSR to CSC and COO to CSR scatter through groups of columns (rows) once

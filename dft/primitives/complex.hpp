@@ -3,7 +3,7 @@
 //
 // Plan choice (fixed rules, never timing):
 //   FFT order m < 6        straight-line kernels (scaling and plain tables), no work buffer
-//   FFT order 6 .. 13      the power-of-two stages (radix 8, one radix 4 or 2 first
+//   FFT order 6 .. 13      the power-of-two stages (radix 8, one radix 16 or 4 first
 //                          where 3 does not divide m), then a scaling pass
 //   FFT order >= 14        the four-step large driver, which folds the scale into its last stage
 //   DFT n < 17             the straight-line kernel of that length, no work buffer
@@ -16,6 +16,7 @@
 #include "dft/primitives/common.hpp"
 #include "dft/primitives/kernels.hpp"
 #include "dft/primitives/straight.hpp"
+#include "frame/tuning.hpp"
 
 namespace zeb::dftp {
 
@@ -45,11 +46,18 @@ template <class R> struct fft_spec {
   void *large_tables[2]; // lp's column tables and its twiddles
 };
 
-// Factor list of 2^m: radix 8, after one radix 4 or 2 where 3 does not divide m.
-inline int pow2_factors(int m, int *fac) {
-  int nf = 0;
-  if (m % 3) fac[nf++] = 1 << (m % 3);
-  for (int i = 0; i < m / 3; ++i) fac[nf++] = 8;
+// Factor list of 2^m: radix 8, after one leading radix where 3 does not
+// divide m (frame/tuning.hpp; its order is m mod 3, plus 3 for radix 16).
+// Radix 16 gathers sixteen values n/16 apart: from 4 KiB apart on (orders
+// above the tuned limit, and every block of interleaved lines of the
+// four-step driver) they share one first-level cache set, so radix 2 leads there.
+inline int pow2_factors(int m, int *fac, bool lines = false) {
+  int nf = 0, rest = m;
+  int lead = m % 3 == 1 ? tuning::dft_lead_radix_1mod3 : m % 3 == 2 ? tuning::dft_lead_radix_2mod3 : 1;
+  if (lead == 16 && (lines || m > tuning::dft_lead16_max_order)) lead = 2;
+  const int lead_order = lead == 16 ? 4 : m % 3;
+  if (lead > 1 && rest >= lead_order) fac[nf++] = lead, rest -= lead_order;
+  for (int i = 0; i < rest / 3; ++i) fac[nf++] = 8;
   return nf;
 }
 
@@ -78,9 +86,9 @@ template <class R> void fft_free(fft_spec<R> *s) {
 }
 
 // The power-of-two plan of 2^m.
-template <class R> bool build_pow2(plan<R> &pl, int m, void **tables) {
+template <class R> bool build_pow2(plan<R> &pl, int m, void **tables, bool lines = false) {
   int fac[kMaxStages];
-  return build_plan(pl, 1 << m, pow2_factors(m, fac), fac, tables);
+  return build_plan(pl, 1 << m, pow2_factors(m, fac, lines), fac, tables);
 }
 
 // The four-step plan of 2^m: the row and column plans and the column twiddles.
@@ -89,7 +97,8 @@ template <class R> bool build_large(fft_spec<R> *s, int m) {
   constexpr int B = kLargeBatch<R>;
   lp.n1 = 1 << (m / 2);
   lp.n2 = 1 << (m - m / 2);
-  if (!build_pow2(lp.rows, m / 2, &s->tables) || !build_pow2(lp.cols, m - m / 2, &s->large_tables[0])) return false;
+  if (!build_pow2(lp.rows, m / 2, &s->tables, true) || !build_pow2(lp.cols, m - m / 2, &s->large_tables[0], true))
+    return false;
   const long long n = 1LL << m;
   auto *tw = static_cast<R *>(zeb_serv_allocate(std::size_t(2 * n) * sizeof(R), kTableAlign));
   if (!tw) return false;

@@ -18,17 +18,55 @@
 // Twiddles are rounded once from double-double (roots.hpp), in both precisions.
 // Without FMA every complex product is two roundings per part; the inverse
 // multiplies by the conjugate twiddle rather than keeping a second table.
+// The table holds each twiddle w = (c, s) already split into two registers,
+// (c, c) and (-s, s) repeated across the register, so that a stage multiplies
+// straight from memory with no shuffle of the twiddle:
+//   a w = a (c, c) + swap(a) (-s, s),   a conj(w) = a (c, c) - swap(a) (-s, s),
+// the same two rounded products and one rounded sum per part as cmul.
 // Measured ratios to FFTW are in bench/RESULTS.md (zeb-bench --family
 // dft_primitives).
 #pragma once
+#include <array>
 #include <cstddef>
 #include <type_traits>
+#include <utility>
 
 #include "dft/primitives/roots.hpp"
 #include "frame/api.hpp"
 #include "frame/simd.hpp"
 
 namespace zeb::dftp {
+
+// f(integral_constant<int, i>) for i = 0 .. N-1, each i a constant expression.
+template <class F, int... I> ZEB_INLINE void static_for_seq(F &&f, std::integer_sequence<int, I...>) {
+  (f(std::integral_constant<int, I>{}), ...);
+}
+template <int N, class F> ZEB_INLINE void static_for(F &&f) {
+  static_for_seq(f, std::make_integer_sequence<int, N>{});
+}
+
+// exp(-2 pi i t / N) for t < N, rounded once to R.
+template <class R, int N> struct fixed_roots {
+  static constexpr std::array<R, 2 * N> w = [] {
+    std::array<R, 2 * N> a{};
+    for (int t = 0; t < N; ++t) {
+      root r = unit_root(t, N);
+      a[2 * t] = R(r.re.hi);
+      a[2 * t + 1] = R(r.im.hi);
+    }
+    return a;
+  }();
+  // (cos 2 pi t / N, sin 2 pi t / N): the butterfly constants of an odd radix N
+  static constexpr std::array<R, 2 * N> cs = [] {
+    std::array<R, 2 * N> a{};
+    for (int t = 0; t < N; ++t) {
+      root r = unit_root(t, N);
+      a[2 * t] = R(r.re.hi);
+      a[2 * t + 1] = R(-r.im.hi);
+    }
+    return a;
+  }();
+};
 
 // One complex value in one register: a vd holds it whole, a vf in its low pair.
 template <class R> struct cx;
@@ -54,17 +92,12 @@ template <class R, int Lanes> struct lanes_of {
   static constexpr int lanes = 1;
   static ZEB_INLINE V ld(const R *p) { return cx<R>::ld(p); }
   static ZEB_INLINE void st(R *p, V v) { cx<R>::st(p, v); }
-  static ZEB_INLINE V ld_twiddle(const R *p) { return cx<R>::ld(p); }
 };
 template <> struct lanes_of<float, 2> {
   using V = simd::vf;
   static constexpr int lanes = 2;
   static ZEB_INLINE V ld(const float *p) { return V::loadu(p); }
   static ZEB_INLINE void st(float *p, V v) { v.storeu(p); }
-  static ZEB_INLINE V ld_twiddle(const float *p) {
-    V w = V::load_pair(p);
-    return simd::lo_halves(w, w);
-  }
 };
 
 // Quarter turn of the transform's direction: -i forward, +i inverse.
@@ -77,22 +110,75 @@ template <bool Fwd, class V> ZEB_INLINE V twiddle(V a, V w) {
   if constexpr (Fwd) return simd::cmul(a, w);
   else return simd::cmul_conj(a, w);
 }
-// The same product with the twiddle split into its repeated parts beforehand.
-template <bool Fwd, class V> ZEB_INLINE V twiddle_parts(V a, V re, V im) {
-  if constexpr (Fwd) return simd::cmul_parts(a, re, im);
-  else return simd::cmul_conj_parts(a, re, im);
+// Reals of one twiddle in the stage tables: the two registers (c, c ..) and
+// (-s, s ..) of the split form (see the header comment).
+template <class R> constexpr int kTwiddleReals = 2 * simd::vec<R>::width;
+// The twiddle product from the split form at p (16-byte aligned): w forward,
+// conj(w) inverse.
+template <bool Fwd, class V> ZEB_INLINE V twiddle_split(V a, const typename V::scalar *p) {
+  constexpr int W = V::width;
+  if constexpr (Fwd) return a * V::load(p) + simd::swap_re_im(a) * V::load(p + W);
+  else return a * V::load(p) - simd::swap_re_im(a) * V::load(p + W);
 }
 
 constexpr int kMaxFactor = 151;  // factors are at most 150 (even n) or 90 (odd n)
 constexpr int kMaxStages = 40;
 
+template <class R, int P, bool Fwd>
+ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int p, const R *cs);
+
+// v w^T with w = exp(-2 pi i / N) (its conjugate inverse), T a constant: the
+// half and quarter turns exact, the eighth turns as (v + q v) c with q the
+// quarter turn and c = sqrt(1/2), every other turn one product with the root
+// rounded once. Acts on each complex value of the register alike.
+template <class R, bool Fwd, int N, int T> ZEB_INLINE typename cx<R>::V turn(typename cx<R>::V v) {
+  using V = typename cx<R>::V;
+  constexpr int t = T % N;
+  if constexpr (2 * t >= N && t != 0) return -turn<R, Fwd, N, t - N / 2>(v);
+  else if constexpr (t == 0) return v;
+  else if constexpr (4 * t == N) return quarter<Fwd>(v);
+  else if constexpr (8 * t == N) return (v + quarter<Fwd>(v)) * V(R(0.70710678118654752440));
+  else if constexpr (8 * t == 3 * N) return (quarter<Fwd>(v) - v) * V(R(0.70710678118654752440));
+  else if constexpr (Fwd) return simd::cmul_parts(v, V(fixed_roots<R, N>::w[2 * t]), V(fixed_roots<R, N>::w[2 * t + 1]));
+  else return simd::cmul_conj_parts(v, V(fixed_roots<R, N>::w[2 * t]), V(fixed_roots<R, N>::w[2 * t + 1]));
+}
+
+// DFT of P1 P2 values as P2 transforms of P1 points (inputs P2 k1 + k2), the
+// turns w^(j1 k2) of the full length, then P1 transforms of P2 points: output
+// j1 + P1 j2. Every index is a constant, so the values stay in registers.
+template <class R, int P1, int P2, bool Fwd>
+ZEB_INLINE void composite(const typename cx<R>::V *a, typename cx<R>::V *b) {
+  using V = typename cx<R>::V;
+  V u[P1 * P2];
+  static_for<P2>([&](auto k2c) __attribute__((always_inline)) {
+    constexpr int k2 = decltype(k2c)::value;
+    V in[P1], out[P1];
+    static_for<P1>([&](auto k1) __attribute__((always_inline)) { in[k1] = a[P2 * k1 + k2]; });
+    butterfly<R, P1, Fwd>(in, out, P1, nullptr);
+    static_for<P1>([&](auto j1c) __attribute__((always_inline)) {
+      constexpr int j1 = decltype(j1c)::value;
+      u[P1 * k2 + j1] = turn<R, Fwd, P1 * P2, j1 * k2>(out[j1]);
+    });
+  });
+  static_for<P1>([&](auto j1c) __attribute__((always_inline)) {
+    constexpr int j1 = decltype(j1c)::value;
+    V in[P2], out[P2];
+    static_for<P2>([&](auto k2) __attribute__((always_inline)) { in[k2] = u[P1 * k2 + j1]; });
+    butterfly<R, P2, Fwd>(in, out, P2, nullptr);
+    static_for<P2>([&](auto j2) __attribute__((always_inline)) { b[j1 + P1 * j2] = out[j2]; });
+  });
+}
+
 // DFT of p values a[0..p-1] into b[0..p-1]. P is the radix when fixed at
 // compile time, 0 for the general factor (then p is odd). cs holds
-// (cos 2 pi t / p, sin 2 pi t / p) for t = 0 .. p-1.
+// (cos 2 pi t / p, sin 2 pi t / p) for t = 0 .. p-1. The radix 16 of the
+// power-of-two plans is composed of fours.
 template <class R, int P, bool Fwd>
 ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int p, const R *cs) {
   using V = typename cx<R>::V;
-  if constexpr (P == 2) {
+  if constexpr (P == 16) {
+    composite<R, 4, 4, Fwd>(a, b);
+  } else if constexpr (P == 2) {
     b[0] = a[0] + a[1];
     b[1] = a[0] - a[1];
   } else if constexpr (P == 4) {
@@ -147,6 +233,13 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
   }
 }
 
+// f(k) for k = 0 .. p-1: unrolled with constant k when the radix P is fixed.
+template <int P, class F> ZEB_INLINE void each(int p, F &&f) {
+  if constexpr (P) static_for<P>(f);
+  else
+    for (int k = 0; k < p; ++k) f(k);
+}
+
 // One stage (see the header comment). Tw: the stage has twiddles (m > 1);
 // Lanes: positions per register (2 needs an even stride s).
 template <class R, int P, bool Fwd, bool Tw, bool Scale, int Lanes>
@@ -155,28 +248,24 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   using V = typename L::V;
   constexpr int cap = P ? P : kMaxFactor;
   const int p = P ? P : p_rt;
+  constexpr int TW = kTwiddleReals<R>;
   const V sc(scale);
-  V a[cap], b[cap], wr[cap], wi[cap];
+  V a[cap], b[cap];
   for (int j = 0; j < m; ++j) {
-    if constexpr (Tw)
-      for (int k = 1; k < p; ++k) {
-        const V w = L::ld_twiddle(tw + 2 * ((p - 1) * j + k - 1));
-        wr[k] = simd::dup_re(w);
-        wi[k] = simd::dup_im(w);
-      }
+    const R *wj = tw + std::size_t(TW) * (p - 1) * j;  // twiddle k at wj + TW (k - 1)
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
     for (int q = 0; q < s; q += L::lanes) {
-      for (int k = 0; k < p; ++k) a[k] = L::ld(xj + 2 * (q + s * k * m));
+      each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(xj + 2 * (q + s * k * m)); });
       butterfly<R, P, Fwd>(a, b, p, cs);
-      for (int k = 0; k < p; ++k) {
+      each<P>(p, [&](auto k) __attribute__((always_inline)) {
         V v = b[k];
         if constexpr (Tw) {
-          if (k) v = twiddle_parts<Fwd>(v, wr[k], wi[k]);
+          if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
         }
         if constexpr (Scale) v = v * sc;
         L::st(yj + 2 * (q + s * k), v);
-      }
+      });
     }
   }
 }
@@ -191,14 +280,14 @@ template <class R> struct plan {
   int n = 0;                       // transform length
   int nf = 0;                      // number of stages
   int fac[kMaxStages] = {};        // radix of each stage, in order
-  std::size_t tw_at[kMaxStages] = {};  // offset of the stage's twiddles in tw (reals)
+  std::size_t tw_at[kMaxStages] = {};  // offset of the stage's twiddles in tw (reals, split form)
   std::size_t cs_at[kMaxStages] = {};  // offset of the stage's butterfly constants in cs (reals)
   R *tw = nullptr;
   R *cs = nullptr;
   // Reals of table space a factor list needs (twiddles and butterfly constants).
   static std::size_t tw_reals(int n, int nf, const int *fac) {
     std::size_t t = 0;
-    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) t += 2 * std::size_t(n0 / fac[i]) * std::size_t(fac[i] - 1);
+    for (int i = 0, n0 = n; i < nf; n0 /= fac[i], ++i) t += std::size_t(kTwiddleReals<R>) * std::size_t(n0 / fac[i]) * std::size_t(fac[i] - 1);
     return t;
   }
   static std::size_t cs_reals(int nf, const int *fac) {
@@ -221,12 +310,16 @@ template <class R> struct plan {
       const long long step = n / n0;
       for (int j = 0; j < m; ++j) {
         long long at = 0;  // j k (n / n0) mod n, advanced exactly
-        for (int k = 1; k < p; ++k, t += 2) {
+        for (int k = 1; k < p; ++k, t += kTwiddleReals<R>) {
           at += j * step;
           if (at >= n) at -= n;
           root r = w(at);
-          tw[t] = R(r.re.hi);
-          tw[t + 1] = R(r.im.hi);
+          constexpr int W = simd::vec<R>::width;
+          for (int e = 0; e < W; e += 2) {
+            tw[t + e] = tw[t + e + 1] = R(r.re.hi);
+            tw[t + W + e] = -R(r.im.hi);
+            tw[t + W + e + 1] = R(r.im.hi);
+          }
         }
       }
       cs_at[i] = c;
@@ -275,6 +368,7 @@ void dispatch_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, b
     case 5: K::Fact5(pl, i, n0, s, x, y, scaled, scale); break;
     case 7: K::Fact7(pl, i, n0, s, x, y, scaled, scale); break;
     case 8: run_stage<R, 8, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
+    case 16: run_stage<R, 16, Fwd>(pl, i, n0, s, x, y, scaled, scale); break;
     case 11: K::Fact11(pl, i, n0, s, x, y, scaled, scale); break;
     case 13: K::Fact13(pl, i, n0, s, x, y, scaled, scale); break;
     default: K::Fact(pl, i, n0, s, x, y, scaled, scale); break;

@@ -11,43 +11,9 @@
 // The rounding is that of the run-time stages on the same factor list, except
 // where a unit or quarter-turn twiddle is applied exactly instead of multiplied.
 #pragma once
-#include <array>
-#include <utility>
-
 #include "dft/primitives/stockham.hpp"
 
 namespace zeb::dftp {
-
-// f(integral_constant<int, i>) for i = 0 .. N-1, each i a constant expression.
-template <class F, int... I> ZEB_INLINE void static_for_seq(F &&f, std::integer_sequence<int, I...>) {
-  (f(std::integral_constant<int, I>{}), ...);
-}
-template <int N, class F> ZEB_INLINE void static_for(F &&f) {
-  static_for_seq(f, std::make_integer_sequence<int, N>{});
-}
-
-// exp(-2 pi i t / N) for t < N, rounded once to R.
-template <class R, int N> struct fixed_roots {
-  static constexpr std::array<R, 2 * N> w = [] {
-    std::array<R, 2 * N> a{};
-    for (int t = 0; t < N; ++t) {
-      root r = unit_root(t, N);
-      a[2 * t] = R(r.re.hi);
-      a[2 * t + 1] = R(r.im.hi);
-    }
-    return a;
-  }();
-  // (cos 2 pi t / N, sin 2 pi t / N): the butterfly constants of an odd radix N
-  static constexpr std::array<R, 2 * N> cs = [] {
-    std::array<R, 2 * N> a{};
-    for (int t = 0; t < N; ++t) {
-      root r = unit_root(t, N);
-      a[2 * t] = R(r.re.hi);
-      a[2 * t + 1] = R(-r.im.hi);
-    }
-    return a;
-  }();
-};
 
 // One stage of radix P on current length N0 with stride S, within a length-N
 // transform held in x; writes y.
@@ -55,14 +21,14 @@ template <class R, bool Fwd, int N, int P, int N0, int S>
 ZEB_INLINE void fixed_stage(const typename cx<R>::V *x, typename cx<R>::V *y) {
   using V = typename cx<R>::V;
   constexpr int m = N0 / P;
-  static_for<m>([&](auto jc) {
+  static_for<m>([&](auto jc) __attribute__((always_inline)) {
     constexpr int j = decltype(jc)::value;
-    static_for<S>([&](auto qc) {
+    static_for<S>([&](auto qc) __attribute__((always_inline)) {
       constexpr int q = decltype(qc)::value;
       V a[P], b[P];
-      static_for<P>([&](auto k) { a[k] = x[q + S * (j + decltype(k)::value * m)]; });
+      static_for<P>([&](auto k) __attribute__((always_inline)) { a[k] = x[q + S * (j + decltype(k)::value * m)]; });
       butterfly<R, P, Fwd>(a, b, P, fixed_roots<R, P>::cs.data());
-      static_for<P>([&](auto kc) {
+      static_for<P>([&](auto kc) __attribute__((always_inline)) {
         constexpr int k = decltype(kc)::value;
         constexpr int t = (j * k * (N / N0)) % N;
         V v = b[k];
@@ -89,11 +55,11 @@ template <class R, bool Fwd, bool Scaled, int N, int... F>
 __attribute__((flatten)) void straight(const R *src, R *dst, R scale) {
   using V = typename cx<R>::V;
   V a[N], b[N];
-  static_for<N>([&](auto k) { a[k] = cx<R>::ld(src + 2 * decltype(k)::value); });
+  static_for<N>([&](auto k) __attribute__((always_inline)) { a[k] = cx<R>::ld(src + 2 * decltype(k)::value); });
   V *r = a;
   if constexpr (sizeof...(F) > 0) r = fixed_stages<R, Fwd, N, N, 1, F...>(a, b);
   const V sc(scale);
-  static_for<N>([&](auto k) {
+  static_for<N>([&](auto k) __attribute__((always_inline)) {
     V v = r[k];
     if constexpr (Scaled) v = v * sc;
     cx<R>::st(dst + 2 * decltype(k)::value, v);

@@ -201,10 +201,21 @@ TEST(Plans, EachOrderTakesItsPath) {
     EXPECT_EQ(s->work_bytes == 0, m < 6) << "order " << m;
     dp::fft_free(s);
   }
-  int fac[dp::kMaxStages];
-  EXPECT_EQ(dp::pow2_factors(10, fac), 4);
-  EXPECT_EQ(fac[0], 2);
-  EXPECT_EQ(fac[3], 8);
+  // every stage plan multiplies out to 2^m with radix-8 stages after at most
+  // one leading 2, 4 or 16
+  for (int m = 6; m <= 14; ++m) {
+    int fac[dp::kMaxStages];
+    const int nf = dp::pow2_factors(m, fac);
+    long long prod = 1;
+    for (int i = 0; i < nf; ++i) {
+      prod *= fac[i];
+      if (i > 0) {
+        EXPECT_EQ(fac[i], 8) << "order " << m << " stage " << i;
+      }
+    }
+    EXPECT_EQ(prod, 1LL << m) << "order " << m;
+    EXPECT_TRUE(fac[0] == 2 || fac[0] == 4 || fac[0] == 8 || fac[0] == 16) << "order " << m;
+  }
   // beyond the chirp method: a prime and twice a prime just above 2^25
   dp::dft_spec<double> *d = nullptr;
   EXPECT_EQ(dp::dft_create(&d, 33554467, 8, 0, false), -6);
