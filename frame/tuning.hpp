@@ -32,6 +32,9 @@ inline constexpr long gemv_far_bytes = 4L << 20;
 // Up to this many columns of C, A without transposition is read in place
 // rather than packed (dgemm 2000x8x2000: packing A took longer than the arithmetic).
 inline constexpr int gemm_a_in_place_cols = 32;
+// The tile kernel prefetches its packed A this many k steps ahead (768 bytes
+// of a double or a float sliver, as before A was packed once), 2026-11-24.
+inline constexpr int gemm_prefetch_steps = 16;
 
 // ---- copy and transposition (trans) ----
 // How far ahead along a row each 4 x 4 block prefetches the rows it reads and

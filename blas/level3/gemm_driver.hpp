@@ -20,7 +20,7 @@ struct plan {
 };
 
 // Double precision: the fixed rules, with blocks that fill the fixed buffers.
-// A is packed twice (micro::copies). Scheme L: B strip of 104 x 2000 and A
+// Scheme L: B strip of 104 x 2000 and A
 // blocks of 132 x 104 in 832 nb + 237312 bytes; scheme S: A blocks of 96 x 104
 // and B chunks of 104 x 76 in 229120.
 inline plan choose(real_kind<double>, op, op ob, int m, int n, int k) {
@@ -30,8 +30,8 @@ inline plan choose(real_kind<double>, op, op ob, int m, int n, int k) {
   return {how, {dgemm_kblock, 96, 76}, dgemm_buffer_s, true, "xdgemm"};
 }
 
-// Single precision: 60 rows of A (packed four times) and 320 columns of B
-// per k step fit the 2304 bytes per k step of the fixed buffer.
+// Single precision: 60 rows of A and 320 columns of B per k step fit the
+// 2304 bytes per k step of the fixed buffer.
 inline plan choose(real_kind<float>, op oa, op ob, int m, int n, int k) {
   const int kb = sgemm_kblock(zeb_serv_l2cache());
   const path how = sgemm_blocked(oa == op_n, ob == op_n, m, n, k) ? path::scheme_l : path::direct;

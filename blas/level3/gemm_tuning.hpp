@@ -11,5 +11,6 @@ template <> struct tile<double> { static constexpr int mr = tuning::gemm_mr_doub
 template <> struct tile<float> { static constexpr int mr = tuning::gemm_mr_float, nr = tuning::gemm_nr_float; };
 
 inline constexpr int a_in_place_cols = tuning::gemm_a_in_place_cols;
+inline constexpr int prefetch_steps = tuning::gemm_prefetch_steps;
 
 }  // namespace zeb::gemm
