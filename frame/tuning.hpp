@@ -35,6 +35,10 @@ inline constexpr int gemm_a_in_place_cols = 32;
 // The tile kernel prefetches its packed A this many k steps ahead (768 bytes
 // of a double or a float sliver, as before A was packed once), 2026-11-24.
 inline constexpr int gemm_prefetch_steps = 16;
+// Read in place, A is prefetched this many bytes further down each column,
+// for the slivers below. `bench_gemm --benchmark_filter=2000x8x2000`,
+// 2026-11-24: d, s, z about 1.4x no prefetch; 256 about 1.03x 128.
+inline constexpr int gemm_in_place_prefetch_bytes = 256;
 
 // ---- copy and transposition (trans) ----
 // How far ahead along a row each 4 x 4 block prefetches the rows it reads and

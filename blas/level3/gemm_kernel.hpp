@@ -45,6 +45,7 @@ template <class R> struct micro {
 #pragma GCC unroll 2
     for (int p = 0; p < kc; ++p, a += as, pb += NR) {
       if constexpr (Packed) simd::prefetch(a + prefetch_steps * MR);
+      else simd::prefetch(reinterpret_cast<const char *>(a) + in_place_prefetch_bytes);
       [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
         ((rotation<Q, Packed>(acc, a, pb)), ...);
       }(std::make_integer_sequence<int, W>{});

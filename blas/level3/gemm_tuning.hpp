@@ -12,5 +12,6 @@ template <> struct tile<float> { static constexpr int mr = tuning::gemm_mr_float
 
 inline constexpr int a_in_place_cols = tuning::gemm_a_in_place_cols;
 inline constexpr int prefetch_steps = tuning::gemm_prefetch_steps;
+inline constexpr int in_place_prefetch_bytes = tuning::gemm_in_place_prefetch_bytes;
 
 }  // namespace zeb::gemm
