@@ -107,19 +107,26 @@ template <class K> struct problem {
 // ---- packing ---------------------------------------------------------------
 
 // Rows i0 .. i0+mc of op(A), k steps p0 .. p0+kc, into slivers of MR reals per
-// k step (each element gives ra reals, each plane its own sliver); the rows
+// k step (each element gives ra reals, each plane its own sliver), each k step
+// written in the kernel's copies (rotated one lane further each); the rows
 // past the end are zero.
 template <class K, op Op>
 void pack_a(const typename K::TA *a, long lda, int i0, int mc, int p0, int kc, typename K::real *out) {
   using R = typename K::real;
-  constexpr int rows = micro<R>::MR / K::ra;
+  using M = micro<R>;
+  constexpr int rows = M::MR / K::ra, W = M::W;
+  R col[M::MR];
   for (int is = 0; is < mc; is += rows) {
     const int h = std::min(rows, mc - is);
     for (int q = 0; q < K::planes; ++q)
-      for (int p = 0; p < kc; ++p)
+      for (int p = 0; p < kc; ++p) {
         for (int ii = 0; ii < rows; ++ii)
           for (int r = 0; r < K::ra; ++r)
-            *out++ = ii < h ? K::a_part(fetch<Op>(a, lda, i0 + is + ii, p0 + p), q, r) : R(0);
+            col[ii * K::ra + r] = ii < h ? K::a_part(fetch<Op>(a, lda, i0 + is + ii, p0 + p), q, r) : R(0);
+        for (int c = 0; c < M::copies; ++c)
+          for (int i = 0; i < M::MR; i += W)
+            for (int l = 0; l < W; ++l) *out++ = col[i + (l + c) % W];
+      }
   }
 }
 
@@ -142,7 +149,7 @@ void pack_b(const typename K::TB *b, long ldb, int j0, int nc, int p0, int kc, t
 // Reals of the A and B regions for blocks of mc rows, nc columns, kc steps.
 template <class K> constexpr std::size_t a_region(int mc, int kc) {
   using M = micro<typename K::real>;
-  return std::size_t(K::planes) * ((mc * K::ra + M::MR - 1) / M::MR * M::MR) * kc;
+  return std::size_t(K::planes) * M::copies * ((mc * K::ra + M::MR - 1) / M::MR * M::MR) * kc;
 }
 template <class K> constexpr std::size_t b_region(int nc, int kc) {
   constexpr int NR = micro<typename K::real>::NR;

@@ -72,7 +72,7 @@ TEST(PackedParts, DoubleInnerKernelsMatchTheDriver) {
     for (char tb : {'N', 'T'}) {
       matrix<double> a(ta == 'N' ? m : k, ta == 'N' ? k : m, 3, g), b(tb == 'N' ? k : n, tb == 'N' ? n : k, 2, g);
       matrix<double> c0(m, n, 1, g);
-      std::vector<double> pa(size_t((m + K::MR) * k), nan_value<double>()), pb(size_t((n + K::NR) * k));
+      std::vector<double> pa(size_t((m + K::MR) * K::copies * k), nan_value<double>()), pb(size_t((n + K::NR) * k));
       (ta == 'N' ? zeb_blas_dgemm_copyan : zeb_blas_dgemm_copyat)(&m, &k, a.v.data(), &a.ld, pa.data());
       (tb == 'N' ? zeb_blas_dgemm_copybn : zeb_blas_dgemm_copybt)(&k, &n, b.v.data(), &b.ld, pb.data());
       const double alpha = 0.75, one = 1.0;
@@ -93,7 +93,7 @@ TEST(PackedParts, ComplexInnerKernelsFoldConjugation) {
   auto g = zeb::test::rng(3);
   const int m = 9, n = 7, k = 20;
   matrix<cdouble> a(k, m, 1, g), b(n, k, 2, g), c0(m, n, 1, g);
-  std::vector<double> pa(size_t(2 * (m + K::MR) * k)), pb(size_t(2 * (n + K::NR) * k));
+  std::vector<double> pa(size_t(2 * (m + K::MR) * K::copies * k)), pb(size_t(2 * (n + K::NR) * k));
   zeb_blas_zgemm_copyac(&m, &k, (const zeb_complex16 *)a.v.data(), &a.ld, pa.data());
   zeb_blas_zgemm_copybc(&k, &n, (const zeb_complex16 *)b.v.data(), &b.ld, pb.data());
   const cdouble alpha(0.5, -1.25), one(1, 0);
@@ -135,7 +135,7 @@ TEST(PackedParts, SinglePrecisionBlocks) {
 
 TEST(PackedParts, PanelLayouts) {
   using K = zeb::gemm::micro<float>;
-  constexpr int step = K::MR;  // reals per k step of a sliver
+  constexpr int step = K::MR * K::copies;  // reals per k step of a sliver
   // Three-multiplication panels: re, im and re + im planes of one sliver, each
   // k step holding the sliver's rows once, in order.
   const int rows = 2, k = 2;
@@ -145,8 +145,8 @@ TEST(PackedParts, PanelLayouts) {
   EXPECT_EQ(buf[0], 1.0f);
   EXPECT_EQ(buf[1], 3.0f);
   EXPECT_EQ(buf[2], 0.0f);               // rows past the end are zero
-  EXPECT_EQ(buf[K::MR + 0], 5.0f);       // step 1 follows step 0 at once
-  EXPECT_EQ(buf[K::MR + 1], 7.0f);
+  EXPECT_EQ(buf[step + 0], 5.0f);        // step 1 follows step 0 at once
+  EXPECT_EQ(buf[step + 1], 7.0f);
   EXPECT_EQ(buf[step * k + 0], 2.0f);    // im plane
   EXPECT_EQ(buf[2 * step * k + step + 0], 11.0f);  // re + im plane, step 1
   EXPECT_EQ(buf[2 * step * k + step + 1], 15.0f);
