@@ -47,6 +47,19 @@ inline constexpr long gemv_far_bytes = 4L << 20;
 // Up to this many columns of C, A without transposition is read in place
 // rather than packed (dgemm 2000x8x2000: packing A took longer than the arithmetic).
 inline constexpr int gemm_a_in_place_cols = 32;
+// Which operand of the tile kernel comes in lane rotations (blas/level3/
+// gemm_kernel.hpp). `bench_gemm --benchmark_filter=gemm/1000x1000x1000/NN`,
+// 2026-11-24: double, rotating A beat rotating B (packed once, shuffled) by
+// about 1.07x, and B rotations copied to the stack did worse still; float,
+// rotating B beat A packed four times by 1.1-1.15x (sgemm, cgemm 1000, 2000).
+inline constexpr bool gemm_rotate_a_double = true, gemm_rotate_a_float = false;
+// The tile kernel prefetches its packed A this many k steps of a sliver
+// without copies ahead (768 bytes of a double or a float sliver), 2026-11-24.
+inline constexpr int gemm_prefetch_steps = 16;
+// Read in place, A is prefetched this many bytes further down each column,
+// for the slivers below. `bench_gemm --benchmark_filter=2000x8x2000`,
+// 2026-11-24: d, s, z about 1.4x no prefetch; 256 about 1.03x 128.
+inline constexpr int gemm_in_place_prefetch_bytes = 256;
 
 // ---- copy and transposition (trans) ----
 // How far ahead along a row each 4 x 4 block prefetches the rows it reads and

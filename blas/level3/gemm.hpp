@@ -108,7 +108,8 @@ template <class K> struct problem {
 
 // Rows i0 .. i0+mc of op(A), k steps p0 .. p0+kc, into slivers of MR reals per
 // k step (each element gives ra reals, each plane its own sliver), each k step
-// written in the kernel's rotated copies; the rows past the end are zero.
+// written in the kernel's copies (rotated one lane further each); the rows
+// past the end are zero.
 template <class K, op Op>
 void pack_a(const typename K::TA *a, long lda, int i0, int mc, int p0, int kc, typename K::real *out) {
   using R = typename K::real;

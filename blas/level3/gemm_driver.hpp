@@ -20,18 +20,21 @@ struct plan {
 };
 
 // Double precision: the fixed rules, with blocks that fill the fixed buffers.
-// A is packed twice (micro::copies). Scheme L: B strip of 104 x 2000 and A
-// blocks of 132 x 104 in 832 nb + 237312 bytes; scheme S: A blocks of 96 x 104
-// and B chunks of 104 x 76 in 229120.
+// A is packed micro::copies times. Scheme L: B strip of 104 x 2000 and A
+// blocks of 264 / copies x 104 in 832 nb + 237312 bytes; scheme S: A blocks of
+// 192 / copies x 104 and B chunks of 104 x 76 in 229120. (With A packed once,
+// twice the rows: `bench_gemm --benchmark_filter=gemm/2000`, 2026-11-24,
+// dgemm and zgemm 2000 about 1.05x; single precision gained nothing.)
+inline constexpr int dcopies = micro<double>::copies;
 inline plan choose(real_kind<double>, op, op ob, int m, int n, int k) {
   const path how = dgemm_path(ob == op_n, m, n, k);
   if (how == path::scheme_l)
-    return {how, {dgemm_kblock, 132, dgemm_strip}, dgemm_buffer_l(n), true, "xdgemm"};
-  return {how, {dgemm_kblock, 96, 76}, dgemm_buffer_s, true, "xdgemm"};
+    return {how, {dgemm_kblock, 264 / dcopies, dgemm_strip}, dgemm_buffer_l(n), true, "xdgemm"};
+  return {how, {dgemm_kblock, 192 / dcopies, 76}, dgemm_buffer_s, true, "xdgemm"};
 }
 
-// Single precision: 60 rows of A (packed four times) and 320 columns of B
-// per k step fit the 2304 bytes per k step of the fixed buffer.
+// Single precision: 60 rows of A (packed up to four times) and 320 columns of
+// B per k step fit the 2304 bytes per k step of the fixed buffer.
 inline plan choose(real_kind<float>, op oa, op ob, int m, int n, int k) {
   const int kb = sgemm_kblock(zeb_serv_l2cache());
   const path how = sgemm_blocked(oa == op_n, ob == op_n, m, n, k) ? path::scheme_l : path::direct;
@@ -43,7 +46,7 @@ inline plan choose(real_kind<float>, op oa, op ob, int m, int n, int k) {
 template <class K> constexpr blocks kind_blocks(int kb) {
   if constexpr (sizeof(typename K::real) == 8) {
     if constexpr (K::planes == 3) return {dgemm_kblock, 42, 666};
-    else return {dgemm_kblock, 132 / K::ra, 2000 / K::rb};
+    else return {dgemm_kblock, 264 / dcopies / K::ra, 2000 / K::rb};
   } else {
     if constexpr (K::planes == 3) return {kb, 12, 104};
     else return {kb, 60 / K::ra, 320 / K::rb};

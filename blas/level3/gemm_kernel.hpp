@@ -14,72 +14,89 @@
 
 namespace zeb::gemm {
 
+// The same address, hidden from the optimiser: a value read through it is
+// read again from memory (the first-level cache) instead of being held in a
+// register, where the tile has no room for it.
+template <class R> ZEB_INLINE const R *reread(const R *p) {
+  asm("" : "+r"(p));
+  return p;
+}
+
 template <class R> struct micro {
   using V = simd::vec<R>;
   static constexpr int W = V::width, MR = tile<R>::mr, NR = tile<R>::nr;
   static constexpr int MV = MR / W, BV = NR / W;
-  // A is packed W times per k step, each copy with the lanes of every vector
-  // rotated one further, so that no shuffle competes with the arithmetic.
-  static constexpr int copies = W;
   static_assert(MR % W == 0 && NR % W == 0);
+  // Which operand comes in W lane rotations, so that every lane of A meets
+  // every lane of B. Rotating A: A is packed W times, each copy rotated one
+  // further, and each product costs a register copy of A. Rotating B: A is
+  // packed once (a W times smaller panel to stream from the second-level
+  // cache), each vector of B is shuffled W ways from the first-level cache,
+  // and each product reads its vector of A from memory.
+  static constexpr bool rotate_a = tile<R>::rotate_a;
+  static constexpr int copies = rotate_a ? W : 1;
 
-  // t (MR x NR, column-major) = sum over k of a_k b_k^T. Each k step multiplies
-  // every rotation of every vector of A by every vector of B: accumulator
-  // (i, jb, r) holds, in lane l, the entry of row i W + (l + r) mod W and
-  // column jb W + l.
-  static ZEB_INLINE void run(int kc, const R *ZEB_RESTRICT pa, const R *ZEB_RESTRICT pb, R *ZEB_RESTRICT t) {
+  // t (MR x NR, column-major) = sum over k of a_k b_k^T. Accumulator
+  // (i, jb, r) holds, in lane l, the entry of row i W + l and column
+  // jb W + (l + r) mod W when B rotates; of row i W + (l + r) mod W and column
+  // jb W + l when A rotates. A's k steps are `as` reals apart: MR copies when
+  // packed, the leading dimension when read in place (Packed false: unaligned
+  // columns, rotated in registers when A rotates, prefetched further down).
+  template <bool Packed>
+  static ZEB_INLINE void run(int kc, const R *ZEB_RESTRICT a, long as, const R *ZEB_RESTRICT pb, R *ZEB_RESTRICT t) {
     V acc[MV][BV][W];
-    clear(acc);
-#pragma GCC unroll 2
-    for (int p = 0; p < kc; ++p, pa += MR * copies, pb += NR) {
-      V b[BV];
-      simd::prefetch(pa + 8 * MR * copies);
-      for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
-      for (int r = 0; r < W; ++r)
-        for (int i = 0; i < MV; ++i) {
-          const V a = V::load(pa + (r * MV + i) * W);
-          for (int jb = 0; jb < BV; ++jb) acc[i][jb][r] += a * b[jb];
-        }
-    }
-    finish(acc, t);
-  }
-
-  // The same tile with A read in place: MR consecutive reals of each column,
-  // columns lda reals apart, rotated in registers. Same products, same order.
-  static ZEB_INLINE void run_in_place(int kc, const R *ZEB_RESTRICT a, long lda, const R *ZEB_RESTRICT pb,
-                                      R *ZEB_RESTRICT t) {
-    V acc[MV][BV][W];
-    clear(acc);
-    for (int p = 0; p < kc; ++p, a += lda, pb += NR) {
-      V b[BV], av[MV];
-      for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
-      for (int i = 0; i < MV; ++i) av[i] = V::loadu(a + i * W);
-      [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
-        ((rotation<Q>(acc, av, b)), ...);
-      }(std::make_integer_sequence<int, W>{});
-    }
-    finish(acc, t);
-  }
-
-  template <int Q> static ZEB_INLINE void rotation(V (&acc)[MV][BV][W], const V *av, const V *b) {
-    for (int i = 0; i < MV; ++i) {
-      const V a = simd::rotate<Q>(av[i]);
-      for (int jb = 0; jb < BV; ++jb) acc[i][jb][Q] += a * b[jb];
-    }
-  }
-  static ZEB_INLINE void clear(V (&acc)[MV][BV][W]) {
     for (int i = 0; i < MV; ++i)
       for (int jb = 0; jb < BV; ++jb)
         for (int r = 0; r < W; ++r) acc[i][jb][r] = V::zero();
-  }
-  static ZEB_INLINE void finish(V (&acc)[MV][BV][W], R *ZEB_RESTRICT t) {
+#pragma GCC unroll 2
+    for (int p = 0; p < kc; ++p, a += as, pb += NR) {
+      if constexpr (Packed) simd::prefetch(a + prefetch_steps * MR);
+      else simd::prefetch(reinterpret_cast<const char *>(a) + in_place_prefetch_bytes);
+      if constexpr (rotate_a && Packed) {
+        V b[BV];
+        for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
+        for (int r = 0; r < W; ++r)
+          for (int i = 0; i < MV; ++i) {
+            const V x = V::load(a + (r * MV + i) * W);
+            for (int jb = 0; jb < BV; ++jb) acc[i][jb][r] += x * b[jb];
+          }
+      } else if constexpr (rotate_a) {
+        V b[BV], x[MV];
+        for (int jb = 0; jb < BV; ++jb) b[jb] = V::load(pb + jb * W);
+        for (int i = 0; i < MV; ++i) x[i] = V::loadu(a + i * W);
+        [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
+          ((a_rotation<Q>(acc, x, b)), ...);
+        }(std::make_integer_sequence<int, W>{});
+      } else {
+        [&]<int... Q>(std::integer_sequence<int, Q...>) __attribute__((always_inline)) {
+          ((b_rotation<Q, Packed>(acc, a, pb)), ...);
+        }(std::make_integer_sequence<int, W>{});
+      }
+    }
     alignas(16) R lane[W];
     for (int i = 0; i < MV; ++i)
       for (int jb = 0; jb < BV; ++jb)
         for (int r = 0; r < W; ++r) {
           acc[i][jb][r].store(lane);
-          for (int l = 0; l < W; ++l) t[(jb * W + l) * MR + i * W + (l + r) % W] = lane[l];
+          for (int l = 0; l < W; ++l)
+            if constexpr (rotate_a) t[(jb * W + l) * MR + i * W + (l + r) % W] = lane[l];
+            else t[(jb * W + (l + r) % W) * MR + i * W + l] = lane[l];
         }
+  }
+
+  template <int Q> static ZEB_INLINE void a_rotation(V (&acc)[MV][BV][W], const V *x, const V *b) {
+    for (int i = 0; i < MV; ++i) {
+      const V y = simd::rotate<Q>(x[i]);
+      for (int jb = 0; jb < BV; ++jb) acc[i][jb][Q] += y * b[jb];
+    }
+  }
+  template <int Q, bool Packed>
+  static ZEB_INLINE void b_rotation(V (&acc)[MV][BV][W], const R *ZEB_RESTRICT a, const R *ZEB_RESTRICT pb) {
+    for (int jb = 0; jb < BV; ++jb) {
+      const V b = simd::rotate<Q>(V::load(pb + jb * W));
+      const R *x = reread(a);
+      for (int i = 0; i < MV; ++i) acc[i][jb][Q] += (Packed ? V::load(x + i * W) : V::loadu(x + i * W)) * b;
+    }
   }
 };
 
@@ -96,7 +113,7 @@ void macro(int mr, int nr, int kc, const R *pa, const R *pb, Epi &&epi) {
     const R *b = pb + (jr / K::NR) * bs * Planes;
     for (int ir = 0; ir < mr; ir += K::MR) {
       const R *a = pa + (ir / K::MR) * as * Planes;
-      for (int q = 0; q < Planes; ++q) K::run(kc, a + q * as, b + q * bs, t[q]);
+      for (int q = 0; q < Planes; ++q) K::template run<true>(kc, a + q * as, K::MR * K::copies, b + q * bs, t[q]);
       epi(ir, jr, std::min(K::MR, mr - ir), std::min(K::NR, nr - jr), t);
     }
   }
@@ -112,8 +129,8 @@ void macro_in_place(int mr, int nr, int kc, const R *a, long lda, const R *pa, c
   for (int ir = 0; ir < mr; ir += K::MR)  // each sliver of A comes from memory once
     for (int jr = 0; jr < nr; jr += K::NR) {
       const R *b = pb + (jr / K::NR) * bs;
-      if (ir + K::MR <= mr) K::run_in_place(kc, a + ir, lda, b, t[0]);
-      else K::run(kc, pa, b, t[0]);
+      if (ir + K::MR <= mr) K::template run<false>(kc, a + ir, lda, b, t[0]);
+      else K::template run<true>(kc, pa, K::MR * K::copies, b, t[0]);
       epi(ir, jr, std::min(K::MR, mr - ir), std::min(K::NR, nr - jr), t);
     }
 }

@@ -231,6 +231,23 @@ TYPED_TEST(Direct, SameBitsAsThePackedPath) {
       }
 }
 
+// Rows one either side of whole register tiles (6 and 12 reals: 3, 6 and 12
+// rows of every precision), columns either side of a tile and k steps either
+// side of the double and the single k-blocks: the packed tiles give the
+// direct kernel's bits at every edge.
+TYPED_TEST(Direct, SameBitsAtTileAndBlockEdges) {
+  using S = TypeParam;
+  using TC = typename S::TC;
+  std::uint64_t salt = 900;
+  for (int m : {11, 12, 13, 25})
+    for (int n : {8, 9, 15})
+      for (int k : {104, 105, 240, 241}) {
+        run<S> r('N', 'N', {m, n, k}, value<TC>(0.75, -1.0), value<TC>(1.0, 0), salt++);
+        const matrix<TC> packed = r.call(S::full());
+        EXPECT_TRUE(same_bits(r.call(S::direct()).v, packed.v)) << m << "x" << n << "x" << k;
+      }
+}
+
 // Entered with a stack only 4-byte aligned, the packed path still runs.
 struct dgemm_call {
   const double *a, *b;

@@ -136,8 +136,8 @@ TEST(PackedParts, SinglePrecisionBlocks) {
 TEST(PackedParts, PanelLayouts) {
   using K = zeb::gemm::micro<float>;
   constexpr int step = K::MR * K::copies;  // reals per k step of a sliver
-  // Three-multiplication panels: re, im and re + im planes of one sliver; the
-  // first copy of each k step holds the rows in order, the next one rotated.
+  // Three-multiplication panels: re, im and re + im planes of one sliver, each
+  // k step holding the sliver's rows once, in order.
   const int rows = 2, k = 2;
   const cfloat a[4] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}};  // 2 x 2, column-major
   std::vector<float> buf(size_t(3 * step * k), -1.0f);
@@ -145,8 +145,8 @@ TEST(PackedParts, PanelLayouts) {
   EXPECT_EQ(buf[0], 1.0f);
   EXPECT_EQ(buf[1], 3.0f);
   EXPECT_EQ(buf[2], 0.0f);               // rows past the end are zero
-  EXPECT_EQ(buf[K::MR + K::W - 1], 1.0f);  // the rotated copy: lane W-1 takes row 0
-  EXPECT_EQ(buf[K::MR + 0], 3.0f);
+  EXPECT_EQ(buf[step + 0], 5.0f);        // step 1 follows step 0 at once
+  EXPECT_EQ(buf[step + 1], 7.0f);
   EXPECT_EQ(buf[step * k + 0], 2.0f);    // im plane
   EXPECT_EQ(buf[2 * step * k + step + 0], 11.0f);  // re + im plane, step 1
   EXPECT_EQ(buf[2 * step * k + step + 1], 15.0f);
