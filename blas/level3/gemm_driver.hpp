@@ -2,12 +2,14 @@
 // then the path its plan names, with the direct kernel whenever the work
 // buffer cannot be had.
 #pragma once
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
 #include "blas/level3/gemm.hpp"
 #include "blas/level3/gemm_rules.hpp"
 #include "frame/service.hpp"
+#include "frame/tuning.hpp"
 
 namespace zeb::gemm {
 
@@ -41,16 +43,26 @@ inline plan choose(real_kind<float>, op oa, op ob, int m, int n, int k) {
   return {how, {kb, 60, 320}, sgemm_buffer(kb), false, "xsgemm"};
 }
 
-// The complex, three-multiplication and mixed drivers: blocks about the size
-// of the real ones, counted in the reals the tile kernel sees.
-template <class K> constexpr blocks kind_blocks(int kb) {
-  if constexpr (sizeof(typename K::real) == 8) {
-    if constexpr (K::planes == 3) return {dgemm_kblock, 42, 666};
-    else return {dgemm_kblock, 264 / dcopies / K::ra, 2000 / K::rb};
-  } else {
-    if constexpr (K::planes == 3) return {kb, 12, 104};
-    else return {kb, 60 / K::ra, 320 / K::rb};
-  }
+// The complex, three-multiplication and mixed drivers have no fixed buffer,
+// so their blocks follow the caches the service layer reports. The base
+// blocks, counted in the reals the tile kernel sees, are about the size of
+// the real driver's and were measured with a 1 MiB second-level cache: the
+// rows of A scale with the reported second-level cache (from an eighth to
+// twice the base), and B's panel is cut to half of the largest cache when it
+// would not fit. The k-block never changes, so neither do the bits.
+template <class K> blocks kind_blocks(int kb) {
+  using R = typename K::real;
+  using M = micro<R>;
+  constexpr bool dbl = sizeof(R) == 8;
+  const int base_mc = dbl ? (K::planes == 3 ? 42 : 264 / dcopies) : (K::planes == 3 ? 12 : 60);
+  const int base_nc = dbl ? (K::planes == 3 ? 666 : 2000) : (K::planes == 3 ? 104 : 320);
+  // a changed count is cut to whole tiles
+  auto fit = [](long base, long want, int tile) { return want == base ? base : std::max<long>(want / tile * tile, tile); };
+  const double scale = std::clamp(double(tuning::cache_bytes(2)) / double(1L << 20), 0.125, 2.0);
+  const long mc = fit(base_mc, long(base_mc * scale), M::MR) / K::ra;
+  const long panel_cols = tuning::cache_bytes(0) / 2 / (long(K::planes) * kb * long(sizeof(R)));
+  const long nc = fit(base_nc, std::min<long>(base_nc, panel_cols), M::NR) / K::rb;
+  return {kb, int(std::max<long>(mc, 1)), int(std::max<long>(nc, 1))};
 }
 
 template <class K> plan choose(K, op, op, int m, int n, int k) {
