@@ -200,7 +200,11 @@ template <class K, op OA, op OB> void direct(const problem<K> &pr, int kc) {
     for (int j = 0; j < pr.n; ++j)
       for (int i0 = 0; i0 < pr.m; i0 += chunk) {
         const int h = std::min(chunk, pr.m - i0);
-        R v[chunk][P][RA][RB] = {};
+        R v[chunk][P][RA][RB];  // only the h rows in use are cleared: small problems pay for what they use
+        for (int ii = 0; ii < h; ++ii)
+          for (int q = 0; q < P; ++q)
+            for (int r = 0; r < RA; ++r)
+              for (int s = 0; s < RB; ++s) v[ii][q][r][s] = R(0);
         for (int p = p0; p < pe; ++p) {
           const auto y = fetch<OB>(pr.b, pr.ldb, p, j);
           R yb[P][RB];

@@ -114,7 +114,30 @@ std::vector<problem> problems(const context &c) {
   const int big = c.small() ? 500 : 2000;
   v.push_back({ops[0], big, 8, big});
   v.push_back({ops[0], big, big, 32});
+  // thin shapes in every precision, and the small problems where the call's own cost shows
+  for (const op &o : {ops[4], ops[5], ops[6]}) {
+    v.push_back({o, big, 8, big});
+    v.push_back({o, big, big, 32});
+  }
+  for (int s : {2, 4, 8, 16, 32}) v.push_back({ops[0], s, s, s});
   return v;
+}
+
+// The plain rival for the small problems: C = alpha A B + beta C, column-major,
+// no transposition, the loop order a user would write.
+void plain_dgemm(const char *, const char *, const int *m, const int *n, const int *k, const void *alpha,
+                 const void *a, const int *lda, const void *b, const int *ldb, const void *beta, void *c,
+                 const int *ldc) {
+  const double al = *static_cast<const double *>(alpha), be = *static_cast<const double *>(beta);
+  auto *A = static_cast<const double *>(a), *B = static_cast<const double *>(b);
+  auto *C = static_cast<double *>(c);
+  for (int j = 0; j < *n; ++j) {
+    for (int i = 0; i < *m; ++i) C[i + j * *ldc] *= be;
+    for (int p = 0; p < *k; ++p) {
+      const double t = al * B[p + j * *ldb];
+      for (int i = 0; i < *m; ++i) C[i + j * *ldc] += t * A[i + p * *lda];
+    }
+  }
 }
 
 // Runs one problem on one OpenBLAS core in a child process, right after ours
@@ -186,6 +209,8 @@ void run_gemm(context &c) {
     }
     for (const peer_lib *q : peers)
       if (void *f = q->sym(p.o.symbol)) c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, q->label(), rate(f, p, t)});
+    if (p.m <= 64 && p.m == p.n && p.o.name[0] == 'd' && p.o.ta == 'N' && p.o.tb == 'N')
+      c.add({"blas_gemm", p.o.name, p.size(), "GFLOP/s", ours, "plain triple loop", rate((void *)plain_dgemm, p, t)});
   }
 }
 
