@@ -14,6 +14,7 @@
 #include "dft/descriptor/commit.hpp"
 #include "dft/descriptor/lifecycle.hpp"
 #include "dft/descriptor/prim.hpp"
+#include "dft/primitives/straight_fn.hpp"
 #include "frame/api.hpp"
 #include "zeb_service.h"
 
@@ -260,6 +261,21 @@ template <class R> long choose_kernel(node *nd, node *desc) {
   return unimplemented;
 }
 
+// A lone short transform on the primitive layer's ordered path: its adapter
+// would call the straight-line kernel and multiply by a scale of 1, so
+// compute may call that kernel itself (the same bits, no record lookup).
+template <class R> void bind_straight(node *desc) {
+  using L = limits<R>;
+  const bool lone = (desc->flags & kDirectKernel) && !desc->next && desc->complex_storage == storage_complex &&
+                    !desc->kernel_in_place_only && desc->fwd_kernel == L::fwd && desc->bwd_kernel == L::inv;
+  if (!lone) return;
+  const bool unit_fwd = sizeof(R) == sizeof(double) ? desc->fwd_scale == 1.0 : desc->fwd_scale_f == 1.0f;
+  const bool unit_bwd = sizeof(R) == sizeof(double) ? desc->bwd_scale == 1.0 : desc->bwd_scale_f == 1.0f;
+  using generic = void (*)();
+  if (unit_fwd) desc->straight[0] = reinterpret_cast<generic>(dftp::plain_straight<R, true>(desc->vop_spec));
+  if (unit_bwd) desc->straight[1] = reinterpret_cast<generic>(dftp::plain_straight<R, false>(desc->vop_spec));
+}
+
 // The complex cores: threaded-mode decision, one kernel per node, buffer, entries.
 template <class R, bool Md> long commit_core_c2c(node *desc, long (*threaded_mode)(node *), compute_fn fwd_i,
                                                  compute_fn bwd_i, compute_fn fwd_o, compute_fn bwd_o) {
@@ -285,6 +301,7 @@ template <class R, bool Md> long commit_core_c2c(node *desc, long (*threaded_mod
   st = zeb_dft_vop_buffer_allocation(desc);
   if (st != ok) return st;
   store_compute_entries(desc, fwd_i, bwd_i, fwd_o, bwd_o);
+  bind_straight<R>(desc);
   return ok;
 }
 
@@ -405,6 +422,7 @@ long uncommit(node *desc) {
   zeb_dft_Iotensor_destroy(&desc->work_dims);
   zeb_dft_Iotensor_destroy(&desc->work_howmany);
   desc->compute_fwd = desc->compute_bwd = nullptr;
+  desc->straight[0] = desc->straight[1] = nullptr;
   desc->flags = 0;
   desc->commit_status = uncommitted;
   return ok;

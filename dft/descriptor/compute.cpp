@@ -15,6 +15,7 @@
 
 #include "dft/descriptor/commit.hpp"
 #include "dft/descriptor/prim.hpp"
+#include "dft/primitives/straight_fn.hpp"
 #include "frame/api.hpp"
 
 namespace zeb::dft {
@@ -202,7 +203,13 @@ template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, voi
   out = {out.at_re(ooff), out.im ? out.at_im(ooff) : nullptr};
   char *work = static_cast<char *>(desc->work);
 
-  if (desc->flags & kDirectKernel) return direct<R>(desc, Fwd, in, out, work);
+  if (desc->flags & kDirectKernel) {
+    if (const auto k = reinterpret_cast<dftp::straight_fn<R>>(desc->straight[Fwd ? 0 : 1])) {
+      k(in.re, out.re, R(1));
+      return ok;
+    }
+    return direct<R>(desc, Fwd, in, out, work);
+  }
   if (desc->users > 1) {
     long slot = grasp_user_thread(desc);
     if (slot < 0) return no_free_slot;

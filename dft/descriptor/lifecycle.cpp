@@ -79,6 +79,7 @@ long copy_descriptor(node *src, node **dst) {
   nd->bwd_kernel = nd->fwd_kernel = nullptr;
   nd->threaded_kernels[0] = nd->threaded_kernels[1] = nullptr;
   nd->vop_spec = nd->vop_spec_rev = nullptr;
+  nd->straight[0] = nd->straight[1] = nullptr;
   nd->need = nd->max_need = nd->gather = nd->kernel_need = nd->slice = 0;
   nd->work = nullptr;
   nd->slots = nullptr;

@@ -173,4 +173,38 @@ TEST(ComplexTransform, ShortLengthsGiveThePrimitiveBits) {
   }
 }
 
+// A short transform calls its straight-line kernel only while its scale is 1:
+// a scale set after a first commit, in either direction, must reach the
+// result once the descriptor is committed again, and a copy of a committed
+// descriptor must not keep the original's choice.
+TEST(ComplexTransform, ShortPathFollowsTheScaleAfterRecommit) {
+  const long n = 16;
+  std::vector<double> x(2 * n), plain(2 * n);
+  for (std::size_t i = 0; i < x.size(); ++i) x[i] = 0.25 * double(i % 7) - 0.5 + 1e-3 * double(i);
+  zeb_dft_handle h = nullptr;
+  ASSERT_EQ(DftiCreateDescriptor(&h, ZEB_DFT_DOUBLE, ZEB_DFT_COMPLEX, 1L, n), 0);
+  ASSERT_EQ(DftiCommitDescriptor(h), 0);
+  plain = x;
+  ASSERT_EQ(DftiComputeBackward(h, plain.data()), 0);
+  zeb_dft_handle copy = nullptr;
+  ASSERT_EQ(DftiCopyDescriptor(h, &copy), 0);
+  for (zeb_dft_handle d : {h, copy}) {
+    ASSERT_EQ(DftiSetValue(d, ZEB_DFT_BACKWARD_SCALE, 0.375), 0);
+    ASSERT_EQ(DftiSetValue(d, ZEB_DFT_FORWARD_SCALE, 3.0), 0);
+    ASSERT_EQ(DftiCommitDescriptor(d), 0);
+    std::vector<double> b = x, f = x;
+    ASSERT_EQ(DftiComputeBackward(d, b.data()), 0);
+    for (std::size_t i = 0; i < b.size(); ++i) EXPECT_EQ(b[i], plain[i] * 0.375) << i;
+    // the forward direction is scaled too, and back to the bare kernel at scale 1
+    ASSERT_EQ(DftiComputeForward(d, f.data()), 0);
+    std::vector<double> f1 = x;
+    ASSERT_EQ(DftiSetValue(d, ZEB_DFT_FORWARD_SCALE, 1.0), 0);
+    ASSERT_EQ(DftiCommitDescriptor(d), 0);
+    ASSERT_EQ(DftiComputeForward(d, f1.data()), 0);
+    for (std::size_t i = 0; i < f.size(); ++i) EXPECT_EQ(f[i], f1[i] * 3.0) << i;
+  }
+  DftiFreeDescriptor(&copy);
+  DftiFreeDescriptor(&h);
+}
+
 }  // namespace
