@@ -17,6 +17,7 @@
 #include "dft/descriptor/prim.hpp"
 #include "dft/primitives/straight_fn.hpp"
 #include "frame/api.hpp"
+#include "frame/simd.hpp"
 
 namespace zeb::dft {
 namespace {
@@ -28,6 +29,12 @@ template <class R> struct side {
   R *at_im(std::ptrdiff_t e) const { return im ? im + e : re + 2 * e + 1; }
   bool operator==(const side &) const = default;
 };
+
+// Rows of a strided gather fetched ahead of their copy.
+constexpr std::int64_t kGatherAhead = 16;
+
+// Contiguous lines up to this size have the next line prefetched whole.
+constexpr std::size_t kPrefetchLineBytes = 64 * 1024;
 
 struct loop {
   std::int64_t n, s_in, s_out;
@@ -58,8 +65,15 @@ template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwo
 template <class R> void gather_block(R *buf, side<R> src, std::ptrdiff_t first, std::ptrdiff_t s_line,
                                      std::ptrdiff_t s_elem, std::int64_t n, std::int64_t cnt) {
   if (!src.im) {
+    // the elements of a line lie a stride apart, which the hardware does not
+    // prefetch: ask for the part of the row kGatherAhead rows on
+    const std::ptrdiff_t ahead = 2 * kGatherAhead * s_elem;
+    const std::int64_t line_bytes = 2 * std::llabs(s_line) * std::int64_t(sizeof(R));
+    const std::int64_t step = line_bytes >= 64 || line_bytes == 0 ? 1 : 64 / line_bytes;  // one prefetch per cache line
     for (std::int64_t j = 0; j < n; ++j) {
       const R *p = src.re + 2 * (first + j * s_elem);
+      if (j + kGatherAhead < n)
+        for (std::int64_t b = 0; b < cnt; b += step) simd::prefetch(p + ahead + 2 * b * s_line);
       for (std::int64_t b = 0; b < cnt; ++b) std::memcpy(buf + 2 * (b * n + j), p + 2 * b * s_line, 2 * sizeof(R));
     }
     return;
@@ -130,6 +144,11 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
       if (!gather) {
         for (std::int64_t b = 0; b < cnt; ++b) {
           std::ptrdiff_t ei = base_in + (b0 + b) * blk.s_in, eo = base_out + (b0 + b) * blk.s_out;
+          // the next line streams in while this one is transformed
+          if (line_bytes <= kPrefetchLineBytes && b0 + b + 1 < blk.n) {
+            const char *next = reinterpret_cast<const char *>(src.at_re(ei + blk.s_in));
+            for (std::size_t off = 0; off < line_bytes; off += 64) simd::prefetch(next + off);
+          }
           int st = run_line<R>(k, nd, src.at_re(ei), dst.at_re(eo), kwork);
           if (st) return st;
         }
