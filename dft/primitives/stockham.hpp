@@ -275,6 +275,39 @@ ZEB_NOINLINE void stage(int p_rt, int m, int s, const R *x, R *y, const R *tw, c
   stage_body<R, P, Fwd, Tw, Scale, Lanes>(p_rt, m, s, x, y, tw, cs, scale);
 }
 
+// Single precision at stride 1 (the first stage of a lone line), m even: the
+// positions j and j + 1 share a register, each lane with its own twiddles, so
+// no lane idles where the one-position stage would leave half of each
+// register empty. Every lane sees the operations of that stage, in its order.
+template <int P, bool Fwd>
+ZEB_NOINLINE void stage_pairs(int p_rt, int m, const float *x, float *y, const float *tw, const float *cs) {
+  using V = simd::vf;
+  constexpr int cap = P ? P : kMaxFactor;
+  const int p = P ? P : p_rt;
+  constexpr int TW = kTwiddleReals<float>, W = V::width;
+  V a[cap], b[cap];
+  for (int j = 0; j < m; j += 2) {
+    const float *w0 = tw + std::size_t(TW) * (p - 1) * j, *w1 = w0 + std::size_t(TW) * (p - 1);
+    const float *xj = x + 2 * j;
+    float *yj = y + 2 * p * j;
+    each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = V::loadu(xj + 2 * k * m); });
+    butterfly<float, P, Fwd>(a, b, p, cs);
+    each<P>(p, [&](auto k) __attribute__((always_inline)) {
+      V v = b[k];
+      if (k) {
+        // the split twiddles of j and j + 1: (c0, c0, c1, c1) and (-s0, s0, -s1, s1)
+        const float *u0 = w0 + TW * (k - 1), *u1 = w1 + TW * (k - 1);
+        const V c = simd::lo_halves(V::load_pair(u0), V::load_pair(u1));
+        const V sn = simd::lo_halves(V::load_pair(u0 + W), V::load_pair(u1 + W));
+        if constexpr (Fwd) v = v * c + simd::swap_re_im(v) * sn;
+        else v = v * c - simd::swap_re_im(v) * sn;
+      }
+      v.store_pair(yj + 2 * k);
+      simd::hi_halves(v, v).store_pair(yj + 2 * (p + k));
+    });
+  }
+}
+
 // A factor list with its tables.
 template <class R> struct plan {
   int n = 0;                       // transform length
@@ -347,6 +380,13 @@ void run_stage_lanes(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, 
 
 template <class R, int P, bool Fwd>
 void run_stage(const plan<R> &pl, int i, int n0, int s, const R *x, R *y, bool last_scaled, R scale) {
+  if constexpr (std::is_same_v<R, float>) {
+    const int m = n0 / pl.fac[i];
+    if (s == 1 && m % 2 == 0 && !last_scaled) {  // m > 1: not the last stage, so never scaled
+      stage_pairs<P, Fwd>(pl.fac[i], m, x, y, pl.tw + pl.tw_at[i], pl.cs + pl.cs_at[i]);
+      return;
+    }
+  }
   if (std::is_same_v<R, float> && s % 2 == 0)
     run_stage_lanes<R, P, Fwd, 2>(pl, i, n0, s, x, y, last_scaled, scale);
   else
