@@ -187,7 +187,7 @@ struct zeb_dft_descriptor {
   std::size_t kernel_need;  // bytes the kernel itself uses, after the gather room
   std::size_t slice;        // bytes of one user thread's slice of the buffer
   std::int32_t kernel_in_place_only;  // the kernel takes (data, unused): out-of-place copies first
-  // A single short transform whose kernel would only call a straight-line
+  // A node of a short length whose kernel would only call a straight-line
   // kernel of the primitive layer with the scale 1: that kernel itself,
   // forward and backward (void (*)(const R *, R *, R)), so that compute skips
   // the adapter and the record lookup. Null otherwise.

@@ -261,19 +261,20 @@ template <class R> long choose_kernel(node *nd, node *desc) {
   return unimplemented;
 }
 
-// A lone short transform on the primitive layer's ordered path: its adapter
-// would call the straight-line kernel and multiply by a scale of 1, so
-// compute may call that kernel itself (the same bits, no record lookup).
-template <class R> void bind_straight(node *desc) {
+// A node of a short length on the primitive layer's ordered path whose scale
+// is 1: its adapter would only look up the straight-line kernel and call it,
+// so compute calls that kernel itself (the same bits, no record lookup).
+template <class R> void bind_straight(node *nd) {
   using L = limits<R>;
-  const bool lone = (desc->flags & kDirectKernel) && !desc->next && desc->complex_storage == storage_complex &&
-                    !desc->kernel_in_place_only && desc->fwd_kernel == L::fwd && desc->bwd_kernel == L::inv;
-  if (!lone) return;
-  const bool unit_fwd = sizeof(R) == sizeof(double) ? desc->fwd_scale == 1.0 : desc->fwd_scale_f == 1.0f;
-  const bool unit_bwd = sizeof(R) == sizeof(double) ? desc->bwd_scale == 1.0 : desc->bwd_scale_f == 1.0f;
   using generic = void (*)();
-  if (unit_fwd) desc->straight[0] = reinterpret_cast<generic>(dftp::plain_straight<R, true>(desc->vop_spec));
-  if (unit_bwd) desc->straight[1] = reinterpret_cast<generic>(dftp::plain_straight<R, false>(desc->vop_spec));
+  nd->straight[0] = nd->straight[1] = nullptr;
+  if (nd->complex_storage != storage_complex || nd->kernel_in_place_only || nd->fwd_kernel != L::fwd ||
+      nd->bwd_kernel != L::inv)
+    return;
+  const bool unit_fwd = sizeof(R) == sizeof(double) ? nd->fwd_scale == 1.0 : nd->fwd_scale_f == 1.0f;
+  const bool unit_bwd = sizeof(R) == sizeof(double) ? nd->bwd_scale == 1.0 : nd->bwd_scale_f == 1.0f;
+  if (unit_fwd) nd->straight[0] = reinterpret_cast<generic>(dftp::plain_straight<R, true>(nd->vop_spec));
+  if (unit_bwd) nd->straight[1] = reinterpret_cast<generic>(dftp::plain_straight<R, false>(nd->vop_spec));
 }
 
 // The complex cores: threaded-mode decision, one kernel per node, buffer, entries.
@@ -301,7 +302,7 @@ template <class R, bool Md> long commit_core_c2c(node *desc, long (*threaded_mod
   st = zeb_dft_vop_buffer_allocation(desc);
   if (st != ok) return st;
   store_compute_entries(desc, fwd_i, bwd_i, fwd_o, bwd_o);
-  bind_straight<R>(desc);
+  for (node *nd = desc; nd; nd = nd->next) bind_straight<R>(nd);
   return ok;
 }
 

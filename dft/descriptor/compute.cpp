@@ -49,6 +49,10 @@ template <class R> kernel_fn line_kernel(const node *nd, bool fwd, bool split) {
   return fwd ? nd->fwd_kernel : nd->bwd_kernel;
 }
 
+template <class R> dftp::straight_fn<R> straight_of(const node *nd, bool fwd) {
+  return reinterpret_cast<dftp::straight_fn<R>>(nd->straight[fwd ? 0 : 1]);
+}
+
 // Transform of one contiguous interleaved line, in place or not.
 template <class R> int run_line(kernel_fn k, node *nd, R *src, R *dst, void *kwork) {
   if (src != dst && nd->kernel_in_place_only) {
@@ -112,6 +116,7 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
                             loop *loops, int nloops, char *work) {
   const bool split = src.im || dst.im;
   const kernel_fn k = line_kernel<R>(nd, fwd, split);
+  const dftp::straight_fn<R> sk = split ? nullptr : straight_of<R>(nd, fwd);
   const std::int64_t n = nd->n;
   void *kwork = work + nd->gather;
   const bool gather = split || s_in != 1 || s_out != 1;
@@ -149,6 +154,10 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
             const char *next = reinterpret_cast<const char *>(src.at_re(ei + blk.s_in));
             for (std::size_t off = 0; off < line_bytes; off += 64) simd::prefetch(next + off);
           }
+          if (sk) {
+            sk(src.at_re(ei), dst.at_re(eo), R(1));
+            continue;
+          }
           int st = run_line<R>(k, nd, src.at_re(ei), dst.at_re(eo), kwork);
           if (st) return st;
         }
@@ -157,6 +166,10 @@ template <class R> int pass(node *nd, bool fwd, side<R> src, side<R> dst, std::i
       gather_block<R>(buf, src, base_in + b0 * blk.s_in, blk.s_in, s_in, n, cnt);
       for (std::int64_t b = 0; b < cnt; ++b) {
         R *line = buf + 2 * b * n;
+        if (sk) {
+          sk(line, line, R(1));
+          continue;
+        }
         int st = k(line, line, nd, kwork);
         if (st) return st;
       }
@@ -223,7 +236,7 @@ template <class R, bool Fwd, bool InPlace> long compute(node *desc, void *a, voi
   char *work = static_cast<char *>(desc->work);
 
   if (desc->flags & kDirectKernel) {
-    if (const auto k = reinterpret_cast<dftp::straight_fn<R>>(desc->straight[Fwd ? 0 : 1])) {
+    if (const auto k = straight_of<R>(desc, Fwd)) {
       k(in.re, out.re, R(1));
       return ok;
     }

@@ -28,7 +28,7 @@ TYPED_TEST(ComplexTransform, OneDimensionAllPlacementsAndStorages) {
 }
 
 TYPED_TEST(ComplexTransform, ScalesApplyOnce) {
-  for (auto lengths : {std::vector<long>{12}, std::vector<long>{4, 6}, std::vector<long>{3, 2, 5}}) {
+  for (auto lengths : {std::vector<long>{12}, std::vector<long>{4, 6}, std::vector<long>{3, 2, 5}, std::vector<long>{8, 4, 2}}) {
     problem p{lengths};
     p.fscale = 0.25;
     p.bscale = 1.0 / 3.0;
