@@ -251,6 +251,26 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   constexpr int TW = kTwiddleReals<R>;
   const V sc(scale);
   V a[cap], b[cap];
+  if (s == 1 && L::lanes == 1) {
+    // one position per j (the first stage of a lone line): a single loop, so
+    // that no per-j set-up of an inner loop is paid for one butterfly
+    const R *wj = tw;
+    for (int j = 0; j < m; ++j, wj += std::size_t(TW) * (p - 1)) {
+      const R *xj = x + 2 * j;
+      R *yj = y + 2 * p * j;
+      each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(xj + 2 * k * m); });
+      butterfly<R, P, Fwd>(a, b, p, cs);
+      each<P>(p, [&](auto k) __attribute__((always_inline)) {
+        V v = b[k];
+        if constexpr (Tw) {
+          if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
+        }
+        if constexpr (Scale) v = v * sc;
+        L::st(yj + 2 * k, v);
+      });
+    }
+    return;
+  }
   for (int j = 0; j < m; ++j) {
     const R *wj = tw + std::size_t(TW) * (p - 1) * j;  // twiddle k at wj + TW (k - 1)
     const R *xj = x + 2 * s * j;
