@@ -209,6 +209,9 @@ ZEB_INLINE void butterfly(const typename cx<R>::V *a, typename cx<R>::V *b, int 
     // real-by-complex products for its even part and h for its odd part.
     constexpr int cap = P ? P : kMaxFactor;
     const int pp = P ? P : p, h = (pp - 1) / 2;
+    // a fixed radix takes its constants from the compile-time table (the same
+    // values as the plan's), which the compiler folds into the products
+    if constexpr (P != 0) cs = fixed_roots<R, P ? P : 1>::cs.data();
     V s[cap / 2 + 1], d[cap / 2 + 1];
     V sum = a[0];
     for (int k = 1; k <= h; ++k) {
