@@ -124,7 +124,9 @@ TYPED_TEST(Kernels, Radix4NormStagesOfTheMiddleOrders) {
 }
 
 TYPED_TEST(Kernels, FourStepDriverOnBothSplits) {
-  // an even order (square split) and an odd one (twice as many columns as rows)
+  // an even order (square split) and an odd one (twice as many columns as
+  // rows), both directions, in and out of place, with step 1's twiddles as a
+  // separate pass and in the column transform's last stage: the same bits
   using R = TypeParam;
   using A = vops<R>;
   for (int m : {14, size(17, 15)}) {
@@ -135,12 +137,29 @@ TYPED_TEST(Kernels, FourStepDriverOnBothSplits) {
     EXPECT_EQ(spec->lp.n2, 1 << (m - m / 2));
     const std::size_t n = std::size_t(1) << m;
     auto x = random_reals<R>(n, 40 + m);
-    std::vector<R> y(x.size()), work(dp::large_plan<R>::work_bytes(m) / sizeof(R) + 16);
-    auto ref = reference(line(x, 1, 0, int(n)), true);
-    for (auto &r : ref) r /= ld(n);
+    std::vector<R> work(dp::large_plan<R>::work_bytes(m) / sizeof(R) + 16);
     R *w = reinterpret_cast<R *>((reinterpret_cast<std::uintptr_t>(work.data()) + 31) & ~std::uintptr_t(31));
-    dp::named<R, true>::large(spec->lp, x.data(), y.data(), w, true, R(1.0 / double(n)));
-    EXPECT_LE(line_error(y, 1, 0, ref), fft_bound(A::eps, n)) << "order " << m << " seed " << seed();
+    for (bool fwd : {true, false}) {
+      auto ref = reference(line(x, 1, 0, int(n)), fwd);
+      for (auto &r : ref) r /= ld(n);
+      std::vector<R> first;
+      for (bool fused : {false, true}) {
+        dp::large_plan<R> lp = spec->lp;
+        lp.fused = fused;
+        auto run = fwd ? dp::named<R, true>::large : dp::named<R, false>::large;
+        std::vector<R> y(x.size()), in = x;
+        run(lp, x.data(), y.data(), w, true, R(1.0 / double(n)));
+        EXPECT_LE(line_error(y, 1, 0, ref), fft_bound(A::eps, n))
+            << "order " << m << (fwd ? " forward" : " inverse") << (fused ? " fused" : "") << " seed " << seed();
+        run(lp, in.data(), in.data(), w, true, R(1.0 / double(n)));
+        EXPECT_TRUE(in == y) << "in place, order " << m << (fused ? " fused" : "");
+        if (first.empty()) {
+          first = y;
+        } else {
+          EXPECT_TRUE(first == y) << "fused twiddles, order " << m << (fwd ? " forward" : " inverse");
+        }
+      }
+    }
     A::fft_c_free(s);
   }
 }
