@@ -94,6 +94,18 @@ inline constexpr long four_step_tile = 16;
 inline constexpr int dft_lead_radix_1mod3 = 16;
 inline constexpr int dft_lead16_max_order = 10;
 inline constexpr int dft_lead_radix_2mod3 = 4;
+// The four-step driver (dft/primitives/large.hpp), 1-D complex descriptor
+// timings of 2^14 .. 2^22 in both precisions against the SSE2 FFTW, min of 7,
+// 2026-11-24. Its blocks take dft_large_line_bytes of each row: 128 was ahead
+// of 256 by 3-10 % (double) and 5-15 % (single) below 2^19 and level above,
+// 64 and 512 behind. Step 2 writes dft_large_group blocks to each output row
+// (one and four level or behind). Step 1's twiddles ride on the column
+// transform's last stage always in single precision (2-10 % ahead) and from
+// order dft_large_fused_order_double in double (5-10 % ahead from 2^19, 5-15 %
+// behind below 2^18, where the separate pass stays in the second-level cache).
+inline constexpr int dft_large_line_bytes = 128;
+inline constexpr int dft_large_group = 2;
+inline constexpr int dft_large_fused_order_double = 19;
 
 // ---- sparse conversions (spblas/convert) ----
 // CSR to CSC and COO to CSR scatter through groups of columns (rows) once

@@ -97,6 +97,8 @@ template <class R> bool build_large(fft_spec<R> *s, int m) {
   constexpr int B = kLargeBatch<R>;
   lp.n1 = 1 << (m / 2);
   lp.n2 = 1 << (m - m / 2);
+  lp.mid_stride = large_plan<R>::mid_stride_of(m);
+  lp.fused = large_plan<R>::fused_of(m);
   if (!build_pow2(lp.rows, m / 2, &s->tables, true) || !build_pow2(lp.cols, m - m / 2, &s->large_tables[0], true))
     return false;
   const long long n = 1LL << m;

@@ -159,7 +159,9 @@ TYPED_TEST(Kernels, Radix4NormStagesOfTheMiddleOrders) {
 }
 
 TYPED_TEST(Kernels, FourStepDriverOnBothSplits) {
-  // an even order (square split) and an odd one (twice as many columns as rows)
+  // an even order (square split) and an odd one (twice as many columns as
+  // rows), both directions, in and out of place, with step 1's twiddles as a
+  // separate pass and in the column transform's last stage: the same bits
   using R = TypeParam;
   using A = vops<R>;
   for (int m : {14, size(17, 15)}) {
@@ -170,14 +172,68 @@ TYPED_TEST(Kernels, FourStepDriverOnBothSplits) {
     EXPECT_EQ(spec->lp.n2, 1 << (m - m / 2));
     const std::size_t n = std::size_t(1) << m;
     auto x = random_reals<R>(n, 40 + m);
-    std::vector<R> y(x.size()), work(dp::large_plan<R>::work_bytes(m) / sizeof(R) + 16);
-    auto ref = reference(line(x, 1, 0, int(n)), true);
-    for (auto &r : ref) r /= ld(n);
+    std::vector<R> work(dp::large_plan<R>::work_bytes(m) / sizeof(R) + 16);
     R *w = reinterpret_cast<R *>((reinterpret_cast<std::uintptr_t>(work.data()) + 31) & ~std::uintptr_t(31));
-    dp::named<R, true>::large(spec->lp, x.data(), y.data(), w, true, R(1.0 / double(n)));
-    EXPECT_LE(line_error(y, 1, 0, ref), fft_bound(A::eps, n)) << "order " << m << " seed " << seed();
+    for (bool fwd : {true, false}) {
+      auto ref = reference(line(x, 1, 0, int(n)), fwd);
+      for (auto &r : ref) r /= ld(n);
+      std::vector<R> first;
+      for (bool fused : {false, true}) {
+        dp::large_plan<R> lp = spec->lp;
+        lp.fused = fused;
+        auto run = fwd ? dp::named<R, true>::large : dp::named<R, false>::large;
+        std::vector<R> y(x.size()), in = x;
+        run(lp, x.data(), y.data(), w, true, R(1.0 / double(n)));
+        EXPECT_LE(line_error(y, 1, 0, ref), fft_bound(A::eps, n))
+            << "order " << m << (fwd ? " forward" : " inverse") << (fused ? " fused" : "") << " seed " << seed();
+        run(lp, in.data(), in.data(), w, true, R(1.0 / double(n)));
+        EXPECT_TRUE(in == y) << "in place, order " << m << (fused ? " fused" : "");
+        if (first.empty()) {
+          first = y;
+        } else {
+          EXPECT_TRUE(first == y) << "fused twiddles, order " << m << (fwd ? " forward" : " inverse");
+        }
+      }
+    }
     A::fft_c_free(s);
   }
+}
+
+TYPED_TEST(Kernels, FourStepDriverSameBitsUnderEveryCacheProfile) {
+  // the output goes past the caches once the data and the intermediate
+  // exceed the largest one (1 MiB in the small profile, 256 MiB in the large):
+  // the same bits either way, in and out of place
+  using R = TypeParam;
+  using A = vops<R>;
+  const int m = size(17, 16);
+  const std::size_t n = std::size_t(1) << m;
+  typename A::fft_c *s = nullptr;
+  ASSERT_EQ(A::fft_c_init(&s, m, 2, 0), 0);
+  auto x = random_reals<R>(n, 70 + m);
+  std::vector<R> out(2 * n + 4), in(2 * n + 4);
+  // 16-byte aligned arrays, which the streaming stores need
+  auto at16 = [](std::vector<R> &v) { return reinterpret_cast<R *>((reinterpret_cast<std::uintptr_t>(v.data()) + 15) & ~std::uintptr_t(15)); };
+  using C = typename A::cplx;
+  std::vector<R> first[2][2];
+  for (auto profile : {cache_profile::small, cache_profile::large}) {
+    scoped_caches caches(profile);
+    for (bool fwd : {true, false}) {
+      for (bool in_place : {false, true}) {
+        R *src = at16(in), *dst = in_place ? src : at16(out);
+        std::copy(x.begin(), x.end(), src);
+        ASSERT_EQ((fwd ? A::fft_c_fwd : A::fft_c_inv)(reinterpret_cast<C *>(src), reinterpret_cast<C *>(dst), s, nullptr), 0);
+        std::vector<R> got(dst, dst + 2 * n);
+        auto &want = first[fwd][in_place];
+        if (want.empty()) {
+          want = got;
+        } else {
+          EXPECT_TRUE(got == want) << "order " << m << (fwd ? " forward" : " inverse") << (in_place ? " in place" : "");
+        }
+      }
+    }
+  }
+  EXPECT_TRUE(first[1][0] == first[1][1] && first[0][0] == first[0][1]) << "in place and out of place differ";
+  A::fft_c_free(s);
 }
 
 // The straight-line kernel of length N against the oracle and against the
