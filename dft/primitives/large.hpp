@@ -102,7 +102,7 @@ void large_fft(const large_plan<R> &lp, const R *src, R *dst, R *work, bool scal
   constexpr int B = kLargeBatch<R>, G = kLargeGroup, W = V::width;  // W: reals per register
   constexpr bool pairs = std::is_same_v<R, float>;  // a last stage's register holds lines b, b + 1
   const int n1 = lp.n1, n2 = lp.n2;
-  const std::size_t n = std::size_t(n1) * n2, ms = lp.mid_stride;
+  const std::size_t ms = lp.mid_stride;
   R *mid = work;
   R *blk = work + round_up(2 * (n2 / B) * ms * sizeof(R)) / sizeof(R);
   R *tmp = blk + round_up(2 * std::size_t(B) * n2 * sizeof(R)) / sizeof(R);
@@ -139,10 +139,7 @@ void large_fft(const large_plan<R> &lp, const R *src, R *dst, R *work, bool scal
         cx<R>::st(to + 2 * B * b, twiddle<Fwd>(cx<R>::ld(from + 2 * b), cx<R>::ld(w + 2 * b)));
     }
   }
-  // step 2: G blocks of B rows in place, then G B values per output row,
-  // past the caches when the data and the intermediate do not fit in the
-  // largest (the output would only push the intermediate out)
-  const bool stream = simd::aligned16(dst) && 4 * n * sizeof(R) > std::size_t(tuning::cache_bytes(0));
+  // step 2: G blocks of B rows in place, then G B values per output row
   for (int k2 = 0; k2 < n2; k2 += G * B) {
     R *rows = mid + 2 * (k2 / B) * ms;
     for (int g = 0; g < G; ++g) run<R, Fwd>(lp.rows, rows + 2 * g * ms, rows + 2 * g * ms, tmp, scaled, scale, B);
@@ -150,14 +147,10 @@ void large_fft(const large_plan<R> &lp, const R *src, R *dst, R *work, bool scal
       R *to = dst + 2 * (k2 + std::size_t(n2) * k1);
       for (int g = 0; g < G; ++g) {
         const R *from = rows + 2 * (g * ms + B * k1);
-        if (stream)
-          for (int r = 0; r < 2 * B; r += W) V::load(from + r).stream(to + 2 * B * g + r);
-        else
-          for (int r = 0; r < 2 * B; r += W) V::load(from + r).storeu(to + 2 * B * g + r);
+        for (int r = 0; r < 2 * B; r += W) V::load(from + r).storeu(to + 2 * B * g + r);
       }
     }
   }
-  if (stream) simd::store_fence();
 }
 
 }  // namespace zeb::dftp

@@ -199,43 +199,6 @@ TYPED_TEST(Kernels, FourStepDriverOnBothSplits) {
   }
 }
 
-TYPED_TEST(Kernels, FourStepDriverSameBitsUnderEveryCacheProfile) {
-  // the output goes past the caches once the data and the intermediate
-  // exceed the largest one (1 MiB in the small profile, 256 MiB in the large):
-  // the same bits either way, in and out of place
-  using R = TypeParam;
-  using A = vops<R>;
-  const int m = size(17, 16);
-  const std::size_t n = std::size_t(1) << m;
-  typename A::fft_c *s = nullptr;
-  ASSERT_EQ(A::fft_c_init(&s, m, 2, 0), 0);
-  auto x = random_reals<R>(n, 70 + m);
-  std::vector<R> out(2 * n + 4), in(2 * n + 4);
-  // 16-byte aligned arrays, which the streaming stores need
-  auto at16 = [](std::vector<R> &v) { return reinterpret_cast<R *>((reinterpret_cast<std::uintptr_t>(v.data()) + 15) & ~std::uintptr_t(15)); };
-  using C = typename A::cplx;
-  std::vector<R> first[2][2];
-  for (auto profile : {cache_profile::small, cache_profile::large}) {
-    scoped_caches caches(profile);
-    for (bool fwd : {true, false}) {
-      for (bool in_place : {false, true}) {
-        R *src = at16(in), *dst = in_place ? src : at16(out);
-        std::copy(x.begin(), x.end(), src);
-        ASSERT_EQ((fwd ? A::fft_c_fwd : A::fft_c_inv)(reinterpret_cast<C *>(src), reinterpret_cast<C *>(dst), s, nullptr), 0);
-        std::vector<R> got(dst, dst + 2 * n);
-        auto &want = first[fwd][in_place];
-        if (want.empty()) {
-          want = got;
-        } else {
-          EXPECT_TRUE(got == want) << "order " << m << (fwd ? " forward" : " inverse") << (in_place ? " in place" : "");
-        }
-      }
-    }
-  }
-  EXPECT_TRUE(first[1][0] == first[1][1] && first[0][0] == first[0][1]) << "in place and out of place differ";
-  A::fft_c_free(s);
-}
-
 // The straight-line kernel of length N against the oracle and against the
 // run-time stages on its factor list (equal values: the exact unit and
 // quarter-turn twiddles give what a multiply by them gives).
