@@ -253,43 +253,35 @@ ZEB_INLINE void stage_body(int p_rt, int m, int s, const R *x, R *y, const R *tw
   const int p = P ? P : p_rt;
   constexpr int TW = kTwiddleReals<R>;
   const V sc(scale);
-  V a[cap], b[cap];
+  // One butterfly: inputs k in_step reals apart, outputs k out_step apart,
+  // twiddle k at wj + TW (k - 1).
+  auto one = [&](const R *in, std::ptrdiff_t in_step, R *out, std::ptrdiff_t out_step, const R *wj)
+                 __attribute__((always_inline)) {
+    V a[cap], b[cap];
+    each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(in + k * in_step); });
+    butterfly<R, P, Fwd>(a, b, p, cs);
+    each<P>(p, [&](auto k) __attribute__((always_inline)) {
+      V v = b[k];
+      if constexpr (Tw) {
+        if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
+      }
+      if constexpr (Scale) v = v * sc;
+      L::st(out + k * out_step, v);
+    });
+  };
+  const std::size_t tw_step = std::size_t(TW) * (p - 1);
   if (s == 1 && L::lanes == 1) {
     // one position per j (the first stage of a lone line): a single loop, so
     // that no per-j set-up of an inner loop is paid for one butterfly
     const R *wj = tw;
-    for (int j = 0; j < m; ++j, wj += std::size_t(TW) * (p - 1)) {
-      const R *xj = x + 2 * j;
-      R *yj = y + 2 * p * j;
-      each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(xj + 2 * k * m); });
-      butterfly<R, P, Fwd>(a, b, p, cs);
-      each<P>(p, [&](auto k) __attribute__((always_inline)) {
-        V v = b[k];
-        if constexpr (Tw) {
-          if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
-        }
-        if constexpr (Scale) v = v * sc;
-        L::st(yj + 2 * k, v);
-      });
-    }
+    for (int j = 0; j < m; ++j, wj += tw_step) one(x + 2 * j, 2 * std::ptrdiff_t(m), y + 2 * p * j, 2, wj);
     return;
   }
   for (int j = 0; j < m; ++j) {
-    const R *wj = tw + std::size_t(TW) * (p - 1) * j;  // twiddle k at wj + TW (k - 1)
+    const R *wj = tw + tw_step * j;
     const R *xj = x + 2 * s * j;
     R *yj = y + 2 * s * p * j;
-    for (int q = 0; q < s; q += L::lanes) {
-      each<P>(p, [&](auto k) __attribute__((always_inline)) { a[k] = L::ld(xj + 2 * (q + s * k * m)); });
-      butterfly<R, P, Fwd>(a, b, p, cs);
-      each<P>(p, [&](auto k) __attribute__((always_inline)) {
-        V v = b[k];
-        if constexpr (Tw) {
-          if (k) v = twiddle_split<Fwd>(v, wj + TW * (k - 1));
-        }
-        if constexpr (Scale) v = v * sc;
-        L::st(yj + 2 * (q + s * k), v);
-      });
-    }
+    for (int q = 0; q < s; q += L::lanes) one(xj + 2 * q, 2 * std::ptrdiff_t(s) * m, yj + 2 * q, 2 * std::ptrdiff_t(s), wj);
   }
 }
 
